@@ -1,0 +1,11 @@
+#pragma once
+
+// The whole public interface of hrm_api.
+
+#include <hrm_api/hrm_api_export.h>
+#include <hrm_api/hrm_api_json.h>
+#include <hrm_api/hrm_api_enum.h>
+#include <hrm_api/hrm_api_enums.h>
+#include <logging/ax_herm_logger.h>
+#include <mp/mp_exception.h>
+#include <mp/mp_serializable.h>

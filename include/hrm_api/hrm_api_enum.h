@@ -1,0 +1,31 @@
+#pragma once
+
+// String forms of enumerations. Every enumeration that crosses the wire travels as a word.
+//
+// enumToString: the word of a value; a value missing from the enumeration's table gives the
+// word of the table's smallest value. enumFromString: the value of a word, compared exactly;
+// a word missing from the table gives the value of the table's alphabetically first word
+// (ordered by UTF-16 code units). Neither throws nor logs. The returned string lives as long
+// as the library is loaded.
+
+#include <hrm_api/hrm_api_export.h>
+
+#include <string>
+
+namespace hrm {
+
+template <class E>
+HRM_API const std::wstring& enumToString(E value);
+
+template <class E>
+HRM_API E enumFromString(const std::wstring& text);
+
+} // namespace hrm
+
+// Declares that enumeration E has a string table (defined in one of the library's sources).
+// Use at namespace scope after the enumeration's definition.
+#define HRM_DECLARE_ENUM_STRINGS(E)                                              \
+    template <>                                                                  \
+    HRM_API const std::wstring& hrm::enumToString<E>(E value);                   \
+    template <>                                                                  \
+    HRM_API E hrm::enumFromString<E>(const std::wstring& text);

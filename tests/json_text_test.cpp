@@ -1,0 +1,155 @@
+#include <hrm_api/hrm_api_json.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <limits>
+#include <sstream>
+
+namespace hrm {
+namespace {
+
+JsonDocument parse(const std::wstring& text)
+{
+    JsonDocument document;
+    JsonTextIO::fromString(text, document);
+    EXPECT_FALSE(document.HasParseError()) << "offset " << document.GetErrorOffset();
+    return document;
+}
+
+std::wstring write(const JsonValue& document, bool pretty)
+{
+    std::wostringstream out;
+    JsonTextIO::write(out, document, pretty);
+    return out.str();
+}
+
+std::string readFile(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+TEST(JsonTextIO, PrettyAndCompactForms)
+{
+    const JsonDocument document = parse(L"{\"a\":[1,2],\"b\":{\"c\":true}}");
+    EXPECT_EQ(write(document, false), L"{\"a\":[1,2],\"b\":{\"c\":true}}");
+    EXPECT_EQ(write(document, true), L"{\n  \"a\": [1, 2],\n  \"b\": {\n    \"c\": true\n  }\n}");
+
+    // Arrays stay on one line even when they hold objects; empty containers stay closed.
+    const JsonDocument nested = parse(L"{\"l\":[{\"x\":1},[]],\"e\":{}}");
+    EXPECT_EQ(write(nested, true), L"{\n  \"l\": [{\n      \"x\": 1\n    }, []],\n  \"e\": {}\n}");
+
+    EXPECT_EQ(write(JsonDocument(), true), L"null");
+}
+
+TEST(JsonTextIO, NumbersAndStringsAsTheWriterProducesThem)
+{
+    JsonDocument document(rapidjson::kArrayType);
+    auto& a = document.GetAllocator();
+    document.PushBack(1.0, a).PushBack(0.1, a).PushBack(-1e300, a).PushBack(5e-324, a);
+    document.PushBack(-1, a).PushBack(std::numeric_limits<uint64_t>::max(), a);
+    document.PushBack(JsonValue(L"q\"b\\s/\x01\n\x7f\x00e9\x4e2d", a), a);
+    EXPECT_EQ(write(document, false),
+              L"[1.0,0.1,-1e300,5e-324,-1,18446744073709551615,\"q\\\"b\\\\s/\\u0001\\n\x7f\x00e9\x4e2d\"]");
+}
+
+TEST(JsonTextIO, WriterFailureLeavesTheStreamUntouched)
+{
+    JsonDocument document(rapidjson::kObjectType);
+    document.AddMember(L"ok", 1, document.GetAllocator());
+    document.AddMember(L"bad", std::nan(""), document.GetAllocator());
+    std::wostringstream out;
+    out << L"before";
+    try {
+        JsonTextIO::write(out, document, true);
+        FAIL() << "expected an exception";
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "Cannot write object into json document");
+    }
+    EXPECT_EQ(out.str(), L"before");
+}
+
+TEST(JsonTextIO, ParseErrorsAreLeftInTheDocument)
+{
+    JsonDocument document;
+    std::wistringstream empty(L"");
+    JsonTextIO::read(empty, document);
+    EXPECT_EQ(document.GetParseError(), rapidjson::kParseErrorDocumentEmpty);
+
+    std::wistringstream trailing(L"{} x");
+    JsonTextIO::read(trailing, document);
+    EXPECT_EQ(document.GetParseError(), rapidjson::kParseErrorDocumentRootNotSingular);
+    EXPECT_EQ(document.GetErrorOffset(), 3u);
+
+    for (const wchar_t* bad : {L"[1,]", L"{\"a\":NaN}", L"// c\n{}", L"[1 2]"}) {
+        std::wistringstream in(bad);
+        JsonTextIO::read(in, document);
+        EXPECT_TRUE(document.HasParseError()) << bad;
+    }
+
+    std::wistringstream good(L" \n{\"k\":[1.5,\"\\ud83d\\ude00\"]}  \n");
+    JsonTextIO::read(good, document);
+    ASSERT_FALSE(document.HasParseError());
+    EXPECT_TRUE(document[L"k"][0].IsDouble());
+    EXPECT_EQ(write(document, false), write(parse(L"{\"k\":[1.5,\"\U0001F600\"]}"), false));
+}
+
+TEST(JsonTextIO, DeepNestingParsesWithoutRecursion)
+{
+    const std::wstring deep = std::wstring(100000, L'[') + std::wstring(100000, L']');
+    JsonDocument document;
+    JsonTextIO::fromString(deep, document);
+    EXPECT_FALSE(document.HasParseError());
+}
+
+TEST(JsonTextIO, WriteToFile)
+{
+    const auto dir = std::filesystem::temp_directory_path() / "hrm_api_json_text_test";
+    std::filesystem::create_directories(dir);
+    const auto path = dir / "doc.json";
+
+    JsonDocument document = parse(L"{\"name\":\"caf\x00e9\",\"n\":[1,2]}");
+    JsonTextIO::writeToFile(document, path.wstring());
+#if defined(_WIN32)
+    EXPECT_EQ(readFile(path), toNarrow(L"{\r\n  \"name\": \"caf\x00e9\",\r\n  \"n\": [1, 2]\r\n}"));
+#else
+    EXPECT_EQ(readFile(path), "{\n  \"name\": \"caf\xc3\xa9\",\n  \"n\": [1, 2]\n}");
+#endif
+
+    // A second write replaces the file; an object writes itself into a fresh document.
+    struct Flag : IJsonObject
+    {
+        void readObject(const JsonValue&) override {}
+        void writeObject(JsonValue& value, JsonAllocator&) const override { value.SetBool(true); }
+    };
+    JsonTextIO::writeToFile(Flag(), path.wstring());
+    EXPECT_EQ(readFile(path), "true");
+
+    // A directory that does not exist: no exception, nothing created.
+    const auto missing = dir / "no_such_dir" / "doc.json";
+    EXPECT_NO_THROW(JsonTextIO::writeToFile(document, missing.wstring()));
+    EXPECT_FALSE(std::filesystem::exists(missing.parent_path()));
+    std::filesystem::remove_all(dir);
+}
+
+TEST(NarrowText, ConversionsBothWays)
+{
+#if !defined(_WIN32)
+    EXPECT_EQ(toNarrow(L"a\x00e9\x4e2d\U0001F600"), "a\xc3\xa9\xe4\xb8\xad\xf0\x9f\x98\x80");
+    EXPECT_EQ(toNarrow(std::wstring(1, static_cast<wchar_t>(0xD800))), "?");
+    EXPECT_EQ(toWide("a\xc3\xa9\xe4\xb8\xad\xf0\x9f\x98\x80"), L"a\x00e9\x4e2d\U0001F600");
+    // Broken sequences become U+FFFD without swallowing what follows.
+    EXPECT_EQ(toWide("\xc3" "a\xff\xe4\xb8"), L"\xfffd" L"a\xfffd\xfffd\xfffd");
+    EXPECT_EQ(toWide("\xc0\x80"), L"\xfffd\xfffd"); // overlong
+#endif
+    EXPECT_EQ(toNarrow(L""), "");
+    EXPECT_EQ(toWide("plain"), L"plain");
+}
+
+} // namespace
+} // namespace hrm
