@@ -116,8 +116,9 @@ public:
     // "<className> object should have a JSON object type."
     JsonObjectReader(const JsonValue& value, const char* className) : JsonObjectReader(value)
     {
-        if (!m_value)
+        if (!m_value) { // braces: HRM_LOG is an if/else
             HRM_LOG(ax_herm::Error) << className << " object should have a JSON object type.";
+        }
     }
 
     explicit operator bool() const { return m_value != nullptr; }
