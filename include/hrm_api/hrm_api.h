@@ -10,6 +10,12 @@
 #include <hrm_api/hrm_api_enums_legacy.h>
 #include <hrm_api/hrm_api_enums_options.h>
 #include <hrm_api/hrm_api_exchange_common.h>
+#include <hrm_api/hrm_api_command_options.h>
+#include <hrm_api/hrm_api_format_options.h>
+#include <hrm_api/hrm_api_format_options_export.h>
+#include <hrm_api/hrm_api_legacy_options.h>
+#include <hrm_api/hrm_api_command.h>
+#include <hrm_api/hrm_api_hermetor_info.h>
 #include <logging/ax_herm_logger.h>
 #include <mp/mp_exception.h>
 #include <mp/mp_serializable.h>
