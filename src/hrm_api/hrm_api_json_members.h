@@ -23,7 +23,8 @@
 //
 // Fixed-size arrays (vectors, colour channels, matrix rows) are read element by element with
 // readLeadingElements and an element rule such as readStoredDouble; arrays of doubles are
-// written with jsonDoubles.
+// written with jsonDoubles. Lists of strings and sets of enumerations travel as arrays of
+// strings (strings, enumerations); on reading, only an array of strings replaces the field.
 
 #include <hrm_api/hrm_api_enum.h>
 #include <hrm_api/hrm_api_json.h>
