@@ -7,6 +7,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -180,6 +181,23 @@ TEST(Command, WritingWithoutTheMatchingOptionsThrowsAndLeavesTheStream)
         EXPECT_EQ(invalidArgument([&] { command.writeObject(out); }), message);
         EXPECT_EQ(out.str(), L"before");
     }
+}
+
+TEST(Command, WriterFailureLeavesTheStream)
+{
+    Command command = filledCommand(Type::Import, Interface::Connect);
+    auto graphical = std::make_shared<OptionsGraphical>();
+    graphical->setTessellation3dSagValue(std::numeric_limits<double>::quiet_NaN());
+    command.importOptions()->setFormatOptions(graphical);
+    std::wostringstream out;
+    out << L"before";
+    try {
+        command.writeObject(out);
+        ADD_FAILURE() << "expected std::runtime_error";
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "Cannot write object into json document");
+    }
+    EXPECT_EQ(out.str(), L"before");
 }
 
 TEST(Command, MalformedDocuments)

@@ -139,14 +139,16 @@ public:
     // An array of strings, one per element.
     JsonObjectWriter& strings(const wchar_t* key, const std::vector<std::wstring>& texts)
     {
-        return add(key, stringArray(texts.begin(), texts.end(), [](const std::wstring& text) { return text; }));
+        const auto same = [](const std::wstring& text) -> const std::wstring& { return text; };
+        return add(key, stringArray(texts.begin(), texts.end(), same));
     }
 
     // An array with the word of each value, in ascending order of value.
     template <class E>
     JsonObjectWriter& enumerations(const wchar_t* key, const std::set<E>& values)
     {
-        return add(key, stringArray(values.begin(), values.end(), [](E value) { return enumToString(value); }));
+        const auto word = [](E value) -> const std::wstring& { return enumToString(value); };
+        return add(key, stringArray(values.begin(), values.end(), word));
     }
 
     JsonObjectWriter& add(const wchar_t* key, JsonValue&& member)
@@ -162,6 +164,7 @@ private:
     JsonValue stringArray(Iterator first, Iterator last, ToText toText)
     {
         JsonValue array(rapidjson::kArrayType);
+        array.Reserve(static_cast<rapidjson::SizeType>(std::distance(first, last)), m_allocator);
         for (; first != last; ++first)
             array.PushBack(jsonString(toText(*first), m_allocator), m_allocator);
         return array;

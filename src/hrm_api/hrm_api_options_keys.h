@@ -7,8 +7,8 @@
 //   const OptionsKeyTable& OptionsMechanical::keyTable()
 //   {
 //       static const OptionsKeyTable table = OptionsKeys<OptionsMechanical>("OptionsMechanical")
-//           .key(L"feature_tolerance_processing_mode", &OptionsMechanical::m_featureToleranceMode)
-//           .key(L"misc_data_processing_mode", &OptionsMechanical::m_miscDataMode);
+//           .key(L"feature_tolerance_processing_mode", &OptionsMechanical::m_featureToleranceProcessingMode)
+//           .key(L"misc_data_processing_mode", &OptionsMechanical::m_miscDataProcessingMode);
 //       return table;
 //   }
 //
