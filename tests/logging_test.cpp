@@ -27,7 +27,10 @@ protected:
     void SetUp() override
     {
         LoggerHolder::setLogger(nullptr, 0);
-        m_dir = std::filesystem::temp_directory_path() / "hrm_api_logging_test";
+        // One folder per test: CTest runs the tests in parallel processes, and Windows does
+        // not remove a folder while another process holds a log file open in it.
+        const std::string test = ::testing::UnitTest::GetInstance()->current_test_info()->name();
+        m_dir = std::filesystem::temp_directory_path() / ("hrm_api_logging_test_" + test);
         std::filesystem::remove_all(m_dir);
         std::filesystem::create_directories(m_dir);
     }
