@@ -14,7 +14,7 @@ namespace hrm {
 
 // Which of the service's interfaces a command addresses (and an info document announces).
 // Travels as "uconnect", "connect" or "legacy"; any other value is written as "uconnect".
-enum class EHermetorInterface : int32_t
+enum class HRM_API_TYPE EHermetorInterface : int32_t
 {
     UConnect = 0,
     Connect = 1,
@@ -29,7 +29,7 @@ class HRM_API Command : public mp::ISerializable
 {
 public:
     // Travels as "unknown", "info", "import", "export", "ping"; any other value as "unknown".
-    enum class EType : int32_t
+    enum class HRM_API_TYPE EType : int32_t
     {
         Unknown = 0,
         Info = 1,

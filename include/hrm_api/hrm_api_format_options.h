@@ -19,7 +19,7 @@ namespace hrm {
 
 // Which topological entities receive persistent names on import. Travels as "unknown",
 // "bodies", "faces", "edges", "vertices".
-enum class EPersistentNameProcessingModeType : int32_t
+enum class HRM_API_TYPE EPersistentNameProcessingModeType : int32_t
 {
     Unknown = 0,
     Bodies = 1,

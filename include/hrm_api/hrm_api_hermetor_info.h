@@ -15,7 +15,7 @@
 namespace hrm {
 
 // How the translator handles Parasolid data. Travels as "direct" or "kernel".
-enum class EParasolidMode : int32_t
+enum class HRM_API_TYPE EParasolidMode : int32_t
 {
     Direct = 0,
     Kernel = 1,
