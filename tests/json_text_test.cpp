@@ -136,8 +136,8 @@ TEST(JsonTextIO, WriteToFile)
     EXPECT_EQ(readFile(path), "true");
 
     // The path goes through the same narrow encoding as the text.
-    JsonTextIO::writeToFile(Flag(), dir.wstring() + L"/caf\x00e9.json");
-    EXPECT_EQ(readFile(dir / std::filesystem::u8path("caf\xc3\xa9.json")), "true");
+    JsonTextIO::writeToFile(Flag(), dir.path().wstring() + L"/caf\x00e9.json");
+    EXPECT_EQ(readFile(dir.path() / std::filesystem::u8path("caf\xc3\xa9.json")), "true");
 
     // A directory that does not exist: no exception, nothing created.
     const auto missing = dir / "no_such_dir" / "doc.json";
