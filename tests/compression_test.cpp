@@ -151,6 +151,9 @@ TEST(Compressor, TruncatedStreamsGiveAPrefixAndCorruptOnesThrow)
     Bytes checksum = gzip;
     checksum[checksum.size() - 8] ^= 1;
     EXPECT_EQ(zlibMessage(checksum), "incorrect data check");
+    Bytes length = gzip; // the trailer's size field also sizes the output in advance
+    std::fill(length.end() - 4, length.end(), '\xFF');
+    EXPECT_EQ(zlibMessage(length), "incorrect length check");
     EXPECT_EQ(zlibMessage(Bytes{'n', 'o', 't', ' ', 'z', 'l', 'i', 'b'}), "incorrect header check");
 
     try {

@@ -144,6 +144,9 @@ TEST(JsonBinaryIO, StringsTravelAsUtf16CodeUnits)
     EXPECT_EQ(roundTrip(std::wstring{wchar_t(0xD800), L'A'}), bytes({0x00, 0xD8, 0x41, 0x00}));
     EXPECT_EQ(roundTrip(std::wstring{wchar_t(0xDC00), wchar_t(0xD800)}), bytes({0x00, 0xDC, 0x00, 0xD8}));
     EXPECT_EQ(roundTrip(std::wstring(1, wchar_t(0xFFFF))), bytes({0xFF, 0xFF}));
+    // Characters beyond U+FFFF after a long run of ordinary ones.
+    const std::wstring longText = std::wstring(40, L'a') + L"\U0001F600" + std::wstring(20, L'b');
+    EXPECT_EQ(roundTrip(longText).size(), 2u * 62);
     // A string with an embedded NUL keeps its length.
     EXPECT_EQ(roundTrip(std::wstring(L"a\0b", 3)), bytes({0x61, 0x00, 0x00, 0x00, 0x62, 0x00}));
 

@@ -39,9 +39,11 @@ struct Input
     }
 };
 
-// Points zlib's output at `room` bytes of `out` after `total`; returns the room given.
-uInt giveRoom(z_stream& stream, std::vector<char>& out, size_t total, size_t room)
+// Points zlib's output at up to `chunk` bytes of `out` after `total`, staying within the
+// vector's capacity while it has any left; returns the room given.
+uInt giveRoom(z_stream& stream, std::vector<char>& out, size_t total, size_t chunk)
 {
+    const size_t room = out.capacity() > total ? std::min(chunk, out.capacity() - total) : chunk;
     out.resize(total + room);
     stream.next_out = reinterpret_cast<Bytef*>(out.data() + total);
     stream.avail_out = zlibCount(room);
@@ -103,6 +105,8 @@ public:
         Input input{data, size};
         size_t total = 0;
         out.clear();
+        // One spare byte: the round that completes the stream must leave room unused.
+        out.reserve(std::min(expectedSize(data, size), maxSize) + 1);
         for (;;) {
             const uInt room = giveRoom(m_stream, out, total, chunk);
             input.feed(m_stream);
@@ -120,6 +124,17 @@ public:
     }
 
 private:
+    // The size a gzip stream announces in its trailer (modulo 2^32), believed only as far as
+    // deflate can expand (at most 1032 to 1); 0 for other streams.
+    static size_t expectedSize(const char* data, size_t size)
+    {
+        if (size < 18 || static_cast<unsigned char>(data[0]) != 0x1F || static_cast<unsigned char>(data[1]) != 0x8B)
+            return 0;
+        const auto* trailer = reinterpret_cast<const unsigned char*>(data + size - 4);
+        const size_t announced = trailer[0] | trailer[1] << 8 | trailer[2] << 16 | size_t(trailer[3]) << 24;
+        return std::min(announced, size * 1032);
+    }
+
     z_stream m_stream{};
 };
 

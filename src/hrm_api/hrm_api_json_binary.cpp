@@ -64,8 +64,33 @@ bool isSurrogate(uint32_t unit) { return unit - 0xD800u < 0x800u; }
 bool isHighSurrogate(uint32_t unit) { return unit - 0xD800u < 0x400u; }
 bool isLowSurrogate(uint32_t unit) { return unit - 0xDC00u < 0x400u; }
 
-// Writes into a byte vector that grows geometrically; the vector is cut to the bytes written
-// when the encoder is done.
+// The size of the encoding of `value`, exact as long as every character is one UTF-16 unit.
+size_t expectedSize(const JsonValue& value)
+{
+    switch (value.GetType()) {
+    case rapidjson::kObjectType: {
+        size_t size = 1 + lengthFieldSize;
+        for (auto member = value.MemberBegin(); member != value.MemberEnd(); ++member)
+            size += expectedSize(member->name) + expectedSize(member->value);
+        return size;
+    }
+    case rapidjson::kArrayType: {
+        size_t size = 1 + lengthFieldSize;
+        for (auto element = value.Begin(); element != value.End(); ++element)
+            size += expectedSize(*element);
+        return size;
+    }
+    case rapidjson::kStringType:
+        return 1 + lengthFieldSize + 2 * size_t(value.GetStringLength());
+    case rapidjson::kNumberType:
+        return value.IsInt() || value.IsUint() ? 5 : 9;
+    default:
+        return 1;
+    }
+}
+
+// Writes into a byte vector sized once from expectedSize(); characters that need two UTF-16
+// units make it grow. The vector is cut to the bytes written when the encoder is done.
 class Encoder
 {
 public:
@@ -74,6 +99,13 @@ public:
     Encoder(const Encoder&) = delete;
     Encoder& operator=(const Encoder&) = delete;
 
+    void encode(const JsonValue& value)
+    {
+        m_out.resize(m_size + expectedSize(value));
+        this->value(value);
+    }
+
+private:
     void value(const JsonValue& value)
     {
         switch (value.GetType()) {
@@ -111,7 +143,6 @@ public:
         }
     }
 
-private:
     // Makes room for `count` more bytes and returns where they go.
     char* room(size_t count)
     {
@@ -165,28 +196,51 @@ private:
     {
         const wchar_t* text = value.GetString();
         const size_t length = value.GetStringLength();
-        // A code point can take two UTF-16 units.
-        char* at = room(1 + lengthFieldSize + length * (wideIsUtf16 ? 2 : 4));
+        const size_t start = m_size;
+        const size_t units = start + 1 + lengthFieldSize;
+        char* at = room(1 + lengthFieldSize + 2 * length);
         *at = static_cast<char>(TagString);
-        char* units = at + 1 + lengthFieldSize;
-        char* end = units;
+        size_t count = 0;
         if constexpr (wideIsUtf16 && hostIsLittleEndian) {
-            std::memcpy(units, text, length * 2);
-            end += length * 2;
-        } else if constexpr (wideIsUtf16) {
-            for (size_t i = 0; i < length; ++i, end += 2)
-                storeLittleEndian(end, static_cast<uint16_t>(text[i]));
+            std::memcpy(at + 1 + lengthFieldSize, text, length * 2);
+            count = length;
         } else {
-            end = toUtf16(text, length, units);
+            count = oneUnitPrefix(text, length, at + 1 + lengthFieldSize);
+            if (count < length) {
+                // Characters beyond U+FFFF ahead: room for two units each from here on.
+                m_size = units + 2 * count;
+                room(4 * (length - count));
+                count += toUtf16(text + count, length - count, m_out.data() + m_size);
+            }
         }
-        storeLittleEndian<uint64_t>(at + 1, static_cast<uint64_t>(end - units) / 2);
-        m_size += static_cast<size_t>(end - at);
+        storeLittleEndian<uint64_t>(m_out.data() + start + 1, count);
+        m_size = units + 2 * count;
     }
 
-    // Code points to UTF-16LE; returns the end of the units written. A value that is no code
-    // point at all (above U+10FFFF) becomes U+FFFD.
-    static char* toUtf16(const wchar_t* text, size_t length, char* out)
+    // Writes the leading characters that are one UTF-16 unit each; returns how many.
+    static size_t oneUnitPrefix(const wchar_t* text, size_t length, char* out)
     {
+        constexpr size_t block = 16;
+        size_t i = 0;
+        for (; i + block <= length; i += block) {
+            uint32_t any = 0;
+            for (size_t k = 0; k < block; ++k)
+                any |= static_cast<uint32_t>(text[i + k]);
+            if (any > 0xFFFF)
+                break;
+            for (size_t k = 0; k < block; ++k)
+                storeLittleEndian(out + 2 * (i + k), static_cast<uint16_t>(text[i + k]));
+        }
+        for (; i < length && static_cast<uint32_t>(text[i]) <= 0xFFFF; ++i)
+            storeLittleEndian(out + 2 * i, static_cast<uint16_t>(text[i]));
+        return i;
+    }
+
+    // Code points to UTF-16LE units; returns the units written. A value that is no code point
+    // at all (above U+10FFFF) becomes U+FFFD.
+    static size_t toUtf16(const wchar_t* text, size_t length, char* out)
+    {
+        char* const start = out;
         for (size_t i = 0; i < length; ++i) {
             uint32_t point = static_cast<uint32_t>(text[i]);
             if (point < 0x10000) {
@@ -202,7 +256,7 @@ private:
                 out += 2;
             }
         }
-        return out;
+        return static_cast<size_t>(out - start) / 2;
     }
 
     std::vector<char>& m_out;
@@ -335,7 +389,8 @@ private:
             // does not matter.
             value.SetString(reinterpret_cast<const wchar_t*>(m_at), stringSize(units), m_allocator);
         } else {
-            m_text.resize(units + 1); // never empty: RapidJSON refuses a null text
+            if (m_text.size() <= units)
+                m_text.resize(units + 1); // never empty: RapidJSON refuses a null text
             const size_t count = fromUtf16(m_at, units, m_text.data());
             value.SetString(m_text.data(), stringSize(count), m_allocator);
         }
@@ -353,22 +408,33 @@ private:
     // wchar_t holds code points; a lone surrogate stays as it is. Returns the characters written.
     static size_t fromUtf16(const char* units, size_t count, wchar_t* out)
     {
-        wchar_t* const start = out;
-        for (size_t i = 0; i < count; ++i) {
+        size_t i = 0;
+        size_t written = 0;
+        constexpr size_t block = 16;
+        // Blocks without surrogates, one character per unit.
+        for (; i + block <= count; i += block, written += block) {
+            uint16_t unit[block];
+            for (size_t k = 0; k < block; ++k)
+                unit[k] = loadLittleEndian<uint16_t>(units + 2 * (i + k));
+            unsigned surrogates = 0;
+            for (size_t k = 0; k < block; ++k)
+                surrogates |= isSurrogate(unit[k]);
+            if (surrogates != 0 && !wideIsUtf16)
+                break;
+            for (size_t k = 0; k < block; ++k)
+                out[written + k] = static_cast<wchar_t>(unit[k]);
+        }
+        for (; i < count; ++i) {
             const uint32_t unit = loadLittleEndian<uint16_t>(units + 2 * i);
-            if (wideIsUtf16 || !isSurrogate(unit)) {
-                *out++ = static_cast<wchar_t>(unit);
-                continue;
-            }
             const uint32_t next = i + 1 < count ? loadLittleEndian<uint16_t>(units + 2 * (i + 1)) : 0;
-            if (isHighSurrogate(unit) && isLowSurrogate(next)) {
-                *out++ = static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
+            if (!wideIsUtf16 && isHighSurrogate(unit) && isLowSurrogate(next)) {
+                out[written++] = static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
                 ++i;
             } else {
-                *out++ = static_cast<wchar_t>(unit);
+                out[written++] = static_cast<wchar_t>(unit);
             }
         }
-        return static_cast<size_t>(out - start);
+        return written;
     }
 
     const char* const m_begin;
@@ -397,7 +463,7 @@ std::vector<char> availableBytes(std::istream& in)
 void JsonBinaryIO::encode(const JsonValue& value, std::vector<char>& out)
 {
     HRM_TRACE();
-    Encoder(out).value(value);
+    Encoder(out).encode(value);
 }
 
 size_t JsonBinaryIO::decode(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator)
@@ -410,7 +476,7 @@ std::ostream& JsonBinaryIO::write(std::ostream& out, const JsonValue& value)
 {
     HRM_TRACE();
     std::vector<char> bytes;
-    Encoder(bytes).value(value);
+    Encoder(bytes).encode(value);
     return out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }
 
