@@ -2,12 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <cmath>
 #include <iterator>
 #include <limits>
 #include <sstream>
+#include <tuple>
 
 namespace hrm {
 namespace {
@@ -22,11 +23,27 @@ Bytes bytes(std::initializer_list<int> values)
     return result;
 }
 
+// A tag and an 8-byte length, followed by `rest`.
+Bytes head(int tag, uint64_t length, std::initializer_list<int> rest = {})
+{
+    Bytes result{static_cast<char>(tag)};
+    for (int k = 0; k < 8; ++k)
+        result.push_back(static_cast<char>(length >> (8 * k)));
+    for (const int value : rest)
+        result.push_back(static_cast<char>(value));
+    return result;
+}
+
 Bytes encoded(const JsonValue& value)
 {
     Bytes out;
     JsonBinaryIO::encode(value, out);
     return out;
+}
+
+std::wstring wide(const JsonValue& value)
+{
+    return std::wstring(value.GetString(), value.GetStringLength());
 }
 
 Bytes readBinaryFile(const std::filesystem::path& path)
@@ -59,10 +76,8 @@ Bytes nestedArrays(size_t depth)
 {
     Bytes data;
     for (size_t i = 0; i < depth; ++i) {
-        const uint64_t body = 9 * (depth - 1 - i);
-        data.push_back(4);
-        for (int k = 0; k < 8; ++k)
-            data.push_back(static_cast<char>(body >> (8 * k)));
+        const Bytes array = head(4, 9 * (depth - 1 - i));
+        data.insert(data.end(), array.begin(), array.end());
     }
     return data;
 }
@@ -112,20 +127,14 @@ TEST(JsonBinaryIO, NumberKindsAndScalarsSurviveTheRoundTrip)
     source.PushBack(-0.0, a).PushBack(std::numeric_limits<double>::denorm_min(), a);
     source.PushBack(JsonValue(), a).PushBack(false, a).PushBack(true, a);
 
+    const auto kinds = [](const JsonValue& v) {
+        return std::make_tuple(v.GetType(), v.IsInt(), v.IsUint(), v.IsInt64(), v.IsUint64(), v.IsDouble());
+    };
     const JsonDocument copy = decoded(encoded(source));
-    ASSERT_TRUE(copy.IsArray());
     ASSERT_EQ(copy.Size(), source.Size());
     for (rapidjson::SizeType i = 0; i < source.Size(); ++i) {
-        SCOPED_TRACE(i);
-        const JsonValue& expected = source[i];
-        const JsonValue& actual = copy[i];
-        EXPECT_EQ(actual.GetType(), expected.GetType());
-        EXPECT_EQ(actual.IsInt(), expected.IsInt());
-        EXPECT_EQ(actual.IsUint(), expected.IsUint());
-        EXPECT_EQ(actual.IsInt64(), expected.IsInt64());
-        EXPECT_EQ(actual.IsUint64(), expected.IsUint64());
-        EXPECT_EQ(actual.IsDouble(), expected.IsDouble());
-        EXPECT_TRUE(actual == expected);
+        EXPECT_EQ(kinds(copy[i]), kinds(source[i])) << i;
+        EXPECT_TRUE(copy[i] == source[i]) << i;
     }
     EXPECT_TRUE(std::signbit(copy[6].GetDouble()));
 }
@@ -137,13 +146,12 @@ TEST(JsonBinaryIO, StringsTravelAsUtf16CodeUnits)
         JsonValue value(text.data(), static_cast<rapidjson::SizeType>(text.size()), document.GetAllocator());
         const Bytes data = encoded(value);
         const JsonDocument copy = decoded(data);
-        EXPECT_EQ(std::wstring(copy.GetString(), copy.GetStringLength()), text);
+        EXPECT_EQ(wide(copy), text);
         return Bytes(data.begin() + 9, data.end());
     };
     // Lone and reversed surrogates travel as themselves, each one unit.
     EXPECT_EQ(roundTrip(std::wstring{wchar_t(0xD800), L'A'}), bytes({0x00, 0xD8, 0x41, 0x00}));
     EXPECT_EQ(roundTrip(std::wstring{wchar_t(0xDC00), wchar_t(0xD800)}), bytes({0x00, 0xDC, 0x00, 0xD8}));
-    EXPECT_EQ(roundTrip(std::wstring(1, wchar_t(0xFFFF))), bytes({0xFF, 0xFF}));
     // Characters beyond U+FFFF after a long run of ordinary ones.
     const std::wstring longText = std::wstring(40, L'a') + L"\U0001F600" + std::wstring(20, L'b');
     EXPECT_EQ(roundTrip(longText).size(), 2u * 62);
@@ -151,18 +159,15 @@ TEST(JsonBinaryIO, StringsTravelAsUtf16CodeUnits)
     EXPECT_EQ(roundTrip(std::wstring(L"a\0b", 3)), bytes({0x61, 0x00, 0x00, 0x00, 0x62, 0x00}));
 
     // A high surrogate at the very end of the data is not joined with anything.
-    const JsonDocument cut = decoded(bytes({5, 1, 0, 0, 0, 0, 0, 0, 0, 0x3D, 0xD8}));
-    EXPECT_EQ(std::wstring(cut.GetString(), cut.GetStringLength()), std::wstring(1, wchar_t(0xD83D)));
+    EXPECT_EQ(wide(decoded(head(5, 1, {0x3D, 0xD8}))), std::wstring(1, wchar_t(0xD83D)));
 
     // A valid pair is one character where wide strings hold code points.
-    const JsonDocument pair = decoded(bytes({5, 2, 0, 0, 0, 0, 0, 0, 0, 0x3D, 0xD8, 0x00, 0xDE}));
-    EXPECT_EQ(std::wstring(pair.GetString(), pair.GetStringLength()), L"\U0001F600");
+    EXPECT_EQ(wide(decoded(head(5, 2, {0x3D, 0xD8, 0x00, 0xDE}))), L"\U0001F600");
 
     if constexpr (sizeof(wchar_t) == 4) {
         // Not a code point at all: written as the replacement character.
         const std::wstring invalid(1, wchar_t(0x110000));
-        EXPECT_EQ(encoded(JsonValue(invalid.c_str(), document.GetAllocator())),
-                  bytes({5, 1, 0, 0, 0, 0, 0, 0, 0, 0xFD, 0xFF}));
+        EXPECT_EQ(encoded(JsonValue(invalid.c_str(), document.GetAllocator())), head(5, 1, {0xFD, 0xFF}));
     }
 }
 
@@ -173,54 +178,35 @@ TEST(JsonBinaryIO, FailuresNameTheirCause)
     expectFailure<std::length_error>(bytes({6, 1, 2}), "JsonBinaryIO: Failed to read all the number of bytes");
     expectFailure<std::length_error>(bytes({10, 0, 0, 0, 0, 0, 0, 0}), "JsonBinaryIO: Failed to read all the number of bytes");
     expectFailure<std::length_error>(bytes({3, 0, 0, 0}), "JsonBinaryIO: Failed to read all the number of bytes");
-    expectFailure<std::length_error>(bytes({5, 2, 0, 0, 0, 0, 0, 0, 0, 0x61, 0, 0x62}),
-                                     "JsonBinaryIO: Failed to read all the bytes of string");
+    expectFailure<std::length_error>(head(5, 2, {0x61, 0, 0x62}), "JsonBinaryIO: Failed to read all the bytes of string");
 
     // Lengths the data cannot hold fail before anything is allocated for them; twice the
     // length must not wrap around to something small.
-    Bytes hostile = bytes({5, 0, 0, 0, 0, 0, 0, 0, 0x40});
+    Bytes hostile = head(5, uint64_t(1) << 62);
     hostile.resize(20, 'x');
     expectFailure<std::length_error>(hostile, "JsonBinaryIO: Failed to read all the bytes of string");
-    expectFailure<std::length_error>(bytes({5, 1, 0, 0, 0, 0, 0, 0, 0x80, 0x61, 0}),
+    expectFailure<std::length_error>(head(5, (uint64_t(1) << 63) + 1, {0x61, 0}),
                                      "JsonBinaryIO: Failed to read all the bytes of string");
-    expectFailure<std::length_error>(bytes({4, -1, -1, -1, -1, -1, -1, -1, -1, 6, 1, 0, 0, 0}),
-                                     "JsonBinaryIO: Failed to parse all bytes of type");
+    expectFailure<std::length_error>(head(4, ~uint64_t(0), {6, 1, 0, 0, 0}), "JsonBinaryIO: Failed to parse all bytes of type");
 
     // Member names must be strings.
-    expectFailure<std::invalid_argument>(bytes({3, 6, 0, 0, 0, 0, 0, 0, 0, 0, 2}),
-                                         "JsonBinaryIO: Member name is not a string");
-    expectFailure<std::invalid_argument>(bytes({3, 9, 0, 0, 0, 0, 0, 0, 0, 3, 0, 0, 0, 0, 0, 0, 0, 0}),
-                                         "JsonBinaryIO: Member name is not a string");
+    expectFailure<std::invalid_argument>(head(3, 6, {0, 2}), "JsonBinaryIO: Member name is not a string");
 }
 
 TEST(JsonBinaryIO, ContainersEndWhereTheirLengthIsReached)
 {
     // [1, 2]: the first element that reaches the end of the body closes the array.
-    const Bytes two = bytes({4, 10, 0, 0, 0, 0, 0, 0, 0, 6, 1, 0, 0, 0, 6, 2, 0, 0, 0});
-    JsonDocument document;
-    EXPECT_EQ(JsonBinaryIO::decode(two.data(), two.size(), document, document.GetAllocator()), two.size());
-    EXPECT_EQ(document.Size(), 2u);
-
-    Bytes shortBody = two;
-    shortBody[1] = 5; // ends just after the first element
-    EXPECT_EQ(JsonBinaryIO::decode(shortBody.data(), shortBody.size(), document, document.GetAllocator()), 14u);
-    EXPECT_EQ(document.Size(), 1u);
-    shortBody[1] = 6; // one byte into the second element: it is read whole
-    EXPECT_EQ(JsonBinaryIO::decode(shortBody.data(), shortBody.size(), document, document.GetAllocator()), 19u);
-    EXPECT_EQ(document.Size(), 2u);
-
-    // A body length beyond the body swallows the next value as a further element.
-    Bytes longBody = two;
-    longBody[1] = 11;
-    longBody.insert(longBody.end(), {6, 3, 0, 0, 0});
-    EXPECT_EQ(JsonBinaryIO::decode(longBody.data(), longBody.size(), document, document.GetAllocator()), 24u);
-    ASSERT_EQ(document.Size(), 3u);
-    EXPECT_EQ(document[2].GetInt(), 3);
-
-    // Members keep their order, and a repeated name is kept as it comes: {"b":null,"b":false}.
-    const Bytes repeated = bytes({3, 24, 0, 0, 0, 0, 0, 0, 0, 5, 1, 0, 0, 0, 0, 0, 0, 0, 0x62, 0, 0,
-                                  5, 1, 0, 0, 0, 0, 0, 0, 0, 0x62, 0, 1});
-    EXPECT_EQ(encoded(decoded(repeated)), repeated);
+    Bytes data = head(4, 10, {6, 1, 0, 0, 0, 6, 2, 0, 0, 0, 6, 3, 0, 0, 0});
+    const auto decodeWithLength = [&](uint8_t length, size_t consumed, size_t elements) {
+        data[1] = static_cast<char>(length);
+        JsonDocument document;
+        EXPECT_EQ(JsonBinaryIO::decode(data.data(), data.size(), document, document.GetAllocator()), consumed);
+        EXPECT_EQ(document.Size(), elements);
+    };
+    decodeWithLength(10, 19, 2);
+    decodeWithLength(5, 14, 1); // ends just after the first element
+    decodeWithLength(6, 19, 2); // one byte into the second element: it is read whole
+    decodeWithLength(11, 24, 3); // beyond the body: the next value becomes an element
 }
 
 TEST(JsonBinaryIO, NestingIsBounded)
@@ -234,8 +220,10 @@ TEST(JsonBinaryIO, NestingIsBounded)
 
     // Objects count as well: {"": {"": ...}}.
     Bytes objects;
-    for (size_t i = 0; i <= limit; ++i)
-        objects.insert(objects.end(), {3, -1, -1, -1, -1, -1, -1, -1, 0x7F, 5, 0, 0, 0, 0, 0, 0, 0, 0});
+    for (size_t i = 0; i <= limit; ++i) {
+        const Bytes object = head(3, ~uint64_t(0), {5, 0, 0, 0, 0, 0, 0, 0, 0});
+        objects.insert(objects.end(), object.begin(), object.end());
+    }
     expectFailure<std::invalid_argument>(objects, "JsonBinaryIO: Nesting too deep");
 }
 
@@ -264,15 +252,7 @@ TEST(JsonBinaryIO, StreamFormsMatchTheBufferForms)
     JsonBinaryIO::read(stream, two, two.GetAllocator());
     EXPECT_EQ(encoded(one), encoded(first));
     EXPECT_EQ(encoded(two), encoded(second));
-    try {
-        JsonBinaryIO::read(stream, three, three.GetAllocator());
-        ADD_FAILURE() << "read past the end";
-    } catch (const std::length_error& error) {
-        EXPECT_STREQ(error.what(), "JsonBinaryIO: Failed to parse all bytes of type");
-    }
-
-    std::istringstream unknown(std::string(1, '\x0B'));
-    EXPECT_THROW(JsonBinaryIO::read(unknown, three, three.GetAllocator()), std::invalid_argument);
+    EXPECT_THROW(JsonBinaryIO::read(stream, three, three.GetAllocator()), std::length_error);
 }
 
 } // namespace

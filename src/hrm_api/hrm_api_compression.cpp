@@ -7,9 +7,9 @@
 
 #include <algorithm>
 #include <array>
-#include <type_traits>
 #include <limits>
 #include <stdexcept>
+#include <type_traits>
 
 namespace hrm {
 namespace {
