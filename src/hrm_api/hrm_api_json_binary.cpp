@@ -60,6 +60,17 @@ T loadLittleEndian(const char* at)
     return number;
 }
 
+// Whether a character travels as one UTF-16 unit (always, where wchar_t has 16 bits).
+// (A template, so that the 32-bit test is not even compiled where it could not fail.)
+template <class Char>
+bool isOneUnit(Char character)
+{
+    if constexpr (sizeof(Char) == 2)
+        return true;
+    else
+        return static_cast<uint32_t>(character) <= 0xFFFF;
+}
+
 bool isSurrogate(uint32_t unit) { return unit - 0xD800u < 0x800u; }
 bool isHighSurrogate(uint32_t unit) { return unit - 0xD800u < 0x400u; }
 bool isLowSurrogate(uint32_t unit) { return unit - 0xDC00u < 0x400u; }
@@ -231,7 +242,7 @@ private:
             for (size_t k = 0; k < block; ++k)
                 storeLittleEndian(out + 2 * (i + k), static_cast<uint16_t>(text[i + k]));
         }
-        for (; i < length && static_cast<uint32_t>(text[i]) <= 0xFFFF; ++i)
+        for (; i < length && isOneUnit(text[i]); ++i)
             storeLittleEndian(out + 2 * i, static_cast<uint16_t>(text[i]));
         return i;
     }
