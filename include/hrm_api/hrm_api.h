@@ -9,3 +9,4 @@
 #include <logging/ax_herm_logger.h>
 #include <mp/mp_exception.h>
 #include <mp/mp_serializable.h>
+#include <mp/mp_shared_buffer.h>
