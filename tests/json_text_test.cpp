@@ -1,5 +1,7 @@
 #include <hrm_api/hrm_api_json.h>
 
+#include "support/temp_dir.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -109,8 +111,7 @@ TEST(JsonTextIO, DeepNestingParsesWithoutRecursion)
 
 TEST(JsonTextIO, WriteToFile)
 {
-    const auto dir = std::filesystem::temp_directory_path() / "hrm_api_json_text_test";
-    std::filesystem::create_directories(dir);
+    const test::TempDir dir("json_text");
     const auto path = dir / "doc.json";
 
     JsonDocument document = parse(L"{\"name\":\"caf\x00e9\",\"n\":[1,2]}");
@@ -134,7 +135,6 @@ TEST(JsonTextIO, WriteToFile)
     const auto missing = dir / "no_such_dir" / "doc.json";
     EXPECT_NO_THROW(JsonTextIO::writeToFile(document, missing.wstring()));
     EXPECT_FALSE(std::filesystem::exists(missing.parent_path()));
-    std::filesystem::remove_all(dir);
 }
 
 TEST(NarrowText, ConversionsBothWays)

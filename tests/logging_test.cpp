@@ -1,6 +1,7 @@
 #include <logging/ax_herm_logger.h>
 
 #include "support/log_capture.h"
+#include "support/temp_dir.h"
 
 #include <gtest/gtest.h>
 
@@ -24,19 +25,9 @@ std::vector<std::string> fileLines(const std::filesystem::path& path)
 class LoggingTest : public ::testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        LoggerHolder::setLogger(nullptr, 0);
-        m_dir = std::filesystem::temp_directory_path() / "hrm_api_logging_test";
-        std::filesystem::remove_all(m_dir);
-        std::filesystem::create_directories(m_dir);
-    }
-    void TearDown() override
-    {
-        LoggerHolder::setLogger(nullptr, 0);
-        std::filesystem::remove_all(m_dir);
-    }
-    std::filesystem::path m_dir;
+    void SetUp() override { LoggerHolder::setLogger(nullptr, 0); }
+    void TearDown() override { LoggerHolder::setLogger(nullptr, 0); }
+    hrm::test::TempDir m_dir{"logging"};
 };
 
 TEST_F(LoggingTest, LevelTags)
@@ -53,7 +44,7 @@ TEST_F(LoggingTest, LevelTags)
 
 TEST_F(LoggingTest, InitLoggerRules)
 {
-    const auto path = m_dir / "log.txt";
+    const auto path = m_dir.path() / "log.txt";
     EXPECT_FALSE(LoggerHolder::levelEnabled(1));
     HRM_LOG(Fatal) << "nobody hears this";
 
@@ -82,14 +73,14 @@ TEST_F(LoggingTest, InitLoggerRules)
     EXPECT_EQ(fileLines(path).size(), 5u);
 
     // A path that cannot be opened leaves no logger at all.
-    LoggerHolder::initLogger(6, (m_dir / "missing" / "log.txt").string());
+    LoggerHolder::initLogger(6, (m_dir.path() / "missing" / "log.txt").string());
     EXPECT_EQ(LoggerHolder::logger(), nullptr);
     EXPECT_FALSE(LoggerHolder::levelEnabled(1));
 }
 
 TEST_F(LoggingTest, ConcurrentLinesDoNotInterleave)
 {
-    const auto path = m_dir / "mt.txt";
+    const auto path = m_dir.path() / "mt.txt";
     LoggerHolder::initLogger(Trace, path.string());
     constexpr int perThread = 200;
     auto work = [](char letter) {

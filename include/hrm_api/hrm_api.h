@@ -6,6 +6,10 @@
 #include <hrm_api/hrm_api_json.h>
 #include <hrm_api/hrm_api_enum.h>
 #include <hrm_api/hrm_api_enums.h>
+#include <hrm_api/hrm_api_enums_export.h>
+#include <hrm_api/hrm_api_enums_legacy.h>
+#include <hrm_api/hrm_api_enums_options.h>
+#include <hrm_api/hrm_api_exchange_common.h>
 #include <logging/ax_herm_logger.h>
 #include <mp/mp_exception.h>
 #include <mp/mp_serializable.h>

@@ -1,7 +1,9 @@
 #pragma once
 
-// Enumerations of units, commands and options, with their string forms (enumToString /
-// enumFromString, hrm_api_enum.h). The numbers are part of the format.
+// Enumerations of units, orientation, operation and file format, with their string forms
+// (enumToString / enumFromString, hrm_api_enum.h). The numbers are part of the format.
+// The option enumerations are in hrm_api_enums_options.h, hrm_api_enums_export.h and
+// hrm_api_enums_legacy.h.
 
 #include <hrm_api/hrm_api_enum.h>
 
@@ -72,6 +74,51 @@ enum class EWorldOrientation : int32_t
     UpZ = 3,
 };
 
+// What a format options object is for: options shared by every direction, import or export.
+enum class EOperationType : int32_t
+{
+    Options = 0,
+    Import = 1,
+    Export = 2,
+};
+
+// The file format of a format options object; also the formats a translator announces.
+enum class EFormatType : int32_t
+{
+    Unknown = 0,
+    General = 1,
+    CGM = 2,
+    ACIS = 3,
+    Parasolid = 4,
+    CatiaV5 = 5,
+    CatiaV5Drawing = 6,
+    CatiaV4 = 7,
+    IGES = 8,
+    STEP = 9,
+    STL = 10,
+    Creo = 11,
+    NX = 12,
+    SolidWorks = 13,
+    SolidWorksDrawing = 14,
+    SolidEdge = 15,
+    JT = 16,
+    Inventor = 17,
+    PDF3D = 18,
+    XML3D = 19,
+    AutoCAD = 20,
+    U3D = 21,
+    VDAFS = 22,
+    XMLEBOM = 23,
+    XCGM = 24,
+    Graphical = 25,
+    Mechanical = 26,
+    Modeler = 27,
+    Picture = 28,
+    IFC = 29,
+    EDrawings = 30,
+    UDL = 31,
+};
+
 } // namespace hrm
 
 HRM_DECLARE_ENUM_STRINGS(hrm::ELengthUnitType)
@@ -79,3 +126,5 @@ HRM_DECLARE_ENUM_STRINGS(hrm::EMassUnitType)
 HRM_DECLARE_ENUM_STRINGS(hrm::ETimeUnitType)
 HRM_DECLARE_ENUM_STRINGS(hrm::ETemperatureUnitType)
 HRM_DECLARE_ENUM_STRINGS(hrm::EWorldOrientation)
+HRM_DECLARE_ENUM_STRINGS(hrm::EOperationType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EFormatType)

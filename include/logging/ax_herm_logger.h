@@ -96,11 +96,11 @@ HRM_API const char* levelTag(int level);
 } // namespace ax_herm
 
 // HRM_LOG(level) << "message";  writes one line when `level` is enabled; the message is not
-// built otherwise.
-#define HRM_LOG(level)                                     \
-    if (!::ax_herm::LoggerHolder::levelEnabled(level)) {   \
-    } else                                                 \
-        ::ax_herm::MTLogger(*::ax_herm::LoggerHolder::logger()).begin(level)
+// built otherwise. A single statement, safe under an unbraced if/else.
+#define HRM_LOG(level)                                                                        \
+    for (bool hrmLogEnabled_ = ::ax_herm::LoggerHolder::levelEnabled(level); hrmLogEnabled_;  \
+         hrmLogEnabled_ = false)                                                              \
+    ::ax_herm::MTLogger(*::ax_herm::LoggerHolder::logger()).begin(level)
 
 #if defined(_MSC_VER)
 #define HRM_FUNCTION_SIGNATURE __FUNCSIG__

@@ -35,4 +35,23 @@ HRM_ENUM_STRINGS(EWorldOrientation,
     {{EWorldOrientation::Unknown, L"unknown"}, {EWorldOrientation::UpX, L"up_x"},
      {EWorldOrientation::UpY, L"up_y"}, {EWorldOrientation::UpZ, L"up_z"}})
 
+HRM_ENUM_STRINGS(EOperationType,
+    {{EOperationType::Options, L"options"}, {EOperationType::Import, L"import"},
+     {EOperationType::Export, L"export"}})
+
+// The mixed case of these words is part of the format.
+HRM_ENUM_STRINGS(EFormatType,
+    {{EFormatType::Unknown, L"unknown"}, {EFormatType::General, L"general"}, {EFormatType::CGM, L"CGM"},
+     {EFormatType::ACIS, L"ACIS"}, {EFormatType::Parasolid, L"parasolid"}, {EFormatType::CatiaV5, L"CatiaV5"},
+     {EFormatType::CatiaV5Drawing, L"CatiaV5Drawing"}, {EFormatType::CatiaV4, L"CatiaV4"},
+     {EFormatType::IGES, L"IGES"}, {EFormatType::STEP, L"STEP"}, {EFormatType::STL, L"STL"},
+     {EFormatType::Creo, L"Creo"}, {EFormatType::NX, L"NX"}, {EFormatType::SolidWorks, L"SolidWorks"},
+     {EFormatType::SolidWorksDrawing, L"SolidWorksDrawing"}, {EFormatType::SolidEdge, L"SolidEdge"},
+     {EFormatType::JT, L"JT"}, {EFormatType::Inventor, L"Inventor"}, {EFormatType::PDF3D, L"3D_PDF"},
+     {EFormatType::XML3D, L"3D_XML"}, {EFormatType::AutoCAD, L"autocad"}, {EFormatType::U3D, L"U3D"},
+     {EFormatType::VDAFS, L"VDA_FS"}, {EFormatType::XMLEBOM, L"XML_EBOM"}, {EFormatType::XCGM, L"XCGM"},
+     {EFormatType::Graphical, L"graphical"}, {EFormatType::Mechanical, L"mechanical"},
+     {EFormatType::Modeler, L"modeler"}, {EFormatType::Picture, L"picture"}, {EFormatType::IFC, L"IFC"},
+     {EFormatType::EDrawings, L"EDrawings"}, {EFormatType::UDL, L"UDL"}})
+
 } // namespace hrm

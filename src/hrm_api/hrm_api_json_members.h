@@ -20,12 +20,17 @@
 //   signed 32-bit integer, uint64 an unsigned 64-bit one, real a value stored as a double;
 // - when the value is not an object at all, every read is a no-op (and the reader logs one
 //   error line if it was given a class name).
+//
+// Fixed-size arrays (vectors, colour channels, matrix rows) are read element by element with
+// readLeadingElements and an element rule such as readStoredDouble; arrays of doubles are
+// written with jsonDoubles.
 
 #include <hrm_api/hrm_api_enum.h>
 #include <hrm_api/hrm_api_json.h>
 #include <logging/ax_herm_logger.h>
 
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -42,6 +47,42 @@ inline JsonValue jsonString(const std::wstring& text, JsonAllocator& allocator)
 inline std::wstring wideString(const JsonValue& value)
 {
     return std::wstring(value.GetString(), value.GetStringLength());
+}
+
+// A JSON array of the doubles in [first, last), each stored as a double (1.0 stays 1.0).
+template <class Iterator>
+JsonValue jsonDoubles(Iterator first, Iterator last, JsonAllocator& allocator)
+{
+    JsonValue array(rapidjson::kArrayType);
+    array.Reserve(static_cast<rapidjson::SizeType>(std::distance(first, last)), allocator);
+    for (; first != last; ++first)
+        array.PushBack(JsonValue(static_cast<double>(*first)), allocator);
+    return array;
+}
+
+// Element rule: stores an element held as a double in `field` and answers true; an element of
+// any other kind (an integer such as 7 included) leaves the field and answers false.
+inline bool readStoredDouble(const JsonValue& element, double& field)
+{
+    if (!element.IsDouble())
+        return false;
+    field = element.GetDouble();
+    return true;
+}
+
+// Reads the leading elements of `array` into the fields [first, last) in order, with
+// `readElement(element, field)` deciding each one. Stops at the end of the array, after the
+// last field, or at the first element the rule refuses; later fields keep their values.
+// A value that is not an array reads nothing.
+template <class Iterator, class ReadElement>
+void readLeadingElements(const JsonValue& array, Iterator first, Iterator last, ReadElement readElement)
+{
+    if (!array.IsArray())
+        return;
+    for (auto element = array.Begin(); element != array.End() && first != last; ++element, ++first) {
+        if (!readElement(*element, *first))
+            return;
+    }
 }
 
 class JsonObjectWriter

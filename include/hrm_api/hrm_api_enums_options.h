@@ -1,0 +1,363 @@
+#pragma once
+
+// Enumerations of the format options shared by import and export and of the import options,
+// with their string forms (enumToString / enumFromString). The numbers are part of the format.
+
+#include <hrm_api/hrm_api_enum.h>
+
+#include <cstdint>
+
+namespace hrm {
+
+// Options shared by import and export (general, graphical, mechanical, modeler)
+
+enum class ELogEventLevelType : int32_t
+{
+    Unknown = 0,
+    None = 1,
+    Abort = 2,
+    Error = 3,
+    Warning = 4,
+    Information = 5,
+    Verbose = 6,
+};
+
+enum class ELogFileEncodingType : int32_t
+{
+    Unknown = 0,
+    UsAscii = 1,
+    Mbcs = 2,
+    Utf8 = 3,
+    Utf16 = 4,
+};
+
+enum class ELoggingModeType : int32_t
+{
+    Unknown = 0,
+    Atomic = 1,
+    Append = 2,
+};
+
+// Which translated data is kept in memory: a combination of the Keep flags, or Unknown. Only
+// the listed values have a word, so a combination such as 6 is written as "keep_none".
+enum class EMemoryManagementModeFlags : int32_t
+{
+    Unknown = 255,
+    KeepNone = 0,
+    KeepPartVisu = 1,
+    KeepPartMech = 2,
+    KeepAsmVisu = 4,
+    KeepAsmMech = 8,
+};
+
+enum class ETranslateReferenceGeometryMode : int32_t
+{
+    Unknown = 0,
+    True = 1,
+    False = 2,
+};
+
+enum class EVisuBRepTessellationModeType : int32_t
+{
+    Unknown = 0,
+    Auto = 1,
+    Never = 2,
+    NeverAtLeastNativePMI = 3,
+};
+
+enum class EVisuTextDataMode : int32_t
+{
+    Unknown = 0,
+    AsString = 1,
+    AsStroked = 2,
+};
+
+enum class EVisuTextStrokingMode : int32_t
+{
+    Unknown = 0,
+    FromSourceNative = 1,
+    FromSourceGenerated = 2,
+    FromSourceGeneratedWithoutInnerLoops = 3,
+    FromSourceGeneratedWithInnerLoops = 4,
+    FromIop = 5,
+};
+
+enum class EFeatureToleranceProcessingModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+enum class EMiscDataProcessingModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+enum class EAcisSplineResurfacingModeType : int32_t
+{
+    Unknown = 0,
+    None = 1,
+    ErroneousSurfacesOnly = 2,
+    ErroneousAndShortSurfaces = 3,
+};
+
+enum class EAttributeProcessingModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+enum class EAcisHealType : int32_t
+{
+    Unknown = 0,
+    None = 1,
+    Minimal = 2,
+    Standard = 3,
+};
+
+enum class EPreserveMfgModeType : int32_t
+{
+    Unknown = 0,
+    Disabled = 1,
+    DecorateAllMfg = 2,
+};
+
+enum class EPreserveModelAssociativityModeType : int32_t
+{
+    Unknown = 0,
+    Disabled = 1,
+    DecorateAll = 2,
+};
+
+enum class EPreservePMIModeType : int32_t
+{
+    Unknown = 0,
+    Disabled = 1,
+    DecorateAllPMI = 2,
+};
+
+enum class ETopologicalEntityInspectorModeType : int32_t
+{
+    Unknown = 0,
+    Process = 1,
+    Disabled = 2,
+};
+
+// Import options
+
+enum class EVisuPMIProcessingMode : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+enum class EImportEntities : int32_t
+{
+    Unknown = 0,
+    RootOnly = 1,
+    RootAndNonRoot = 2,
+};
+
+enum class ETranslateHiddenEntitiesModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+    OnlyWithVisibleLinks = 3,
+};
+
+enum class EAssemblyPathPrefType : int32_t
+{
+    Unknown = 0,
+    SubfoldersFirst = 1,
+    RootFolderOnly = 2,
+    RootFolderFirst = 3,
+};
+
+enum class EProcessInWorkObjectModeType : int32_t
+{
+    Unknown = 0,
+    True = 1,
+    False = 2,
+};
+
+enum class ENameProcessingModeType : int32_t
+{
+    Unknown = 0,
+    ShortNames = 1,
+    LongNames = 2,
+};
+
+enum class EAssemblyUnfoldedViewMode : int32_t
+{
+    Unknown = 0,
+    True = 1,
+    False = 2,
+};
+
+enum class EImportMfgProcessingModeType : int32_t
+{
+    Unknown = 0,
+    FeaturesOnly = 1,
+    ResultsOnly = 2,
+};
+
+enum class ETranslateSuppressedEntitiesModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+enum class EProcessMfgDataModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+// Has no Unknown: an unknown word reads as None.
+enum class EDocumentDelayLoadingMode : int32_t
+{
+    None = 0,
+    Part = 1,
+};
+
+enum class EEdgeAttributeModeType : int32_t
+{
+    Unknown = 0,
+    None = 1,
+    All = 2,
+    PMIOwnersOnly = 3,
+    WireBodyOnly = 4,
+};
+
+enum class EImportMfgHolesOnSheetsMode : int32_t
+{
+    Unknown = 0,
+    Ignore = 1,
+    Include = 2,
+};
+
+enum class ETranslateDrivingDimensionsModeType : int32_t
+{
+    Unknown = 0,
+    True = 1,
+    False = 2,
+};
+
+enum class ETranslateConstructionGeometriesModeType : int32_t
+{
+    Unknown = 0,
+    True = 1,
+    False = 2,
+};
+
+enum class ECopiousDataModeType : int32_t
+{
+    Unknown = 0,
+    SingleBSpline = 1,
+    MultipleBSplines = 2,
+    MultipleLines = 3,
+};
+
+// Prefer2d and Prefer3d are one value: both words read as 1, which is written as "2d". Value 2
+// has no word and is written as "unknown".
+enum class ETrimCurveImportPreferenceModeType : int32_t
+{
+    Unknown = 0,
+    Prefer2d = 1,
+    Prefer3d = 1,
+    FromSource = 3,
+};
+
+enum class EActiveStateProcessingModeType : int32_t
+{
+    Unknown = 0,
+    ActiveOnly = 1,
+    ActiveAndInactive = 2,
+};
+
+enum class EImportEdgesModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+enum class EUserPropertiesModeType : int32_t
+{
+    Unknown = 0,
+    TranslateAll = 1,
+    TranslateNone = 2,
+};
+
+enum class ETranslateFreeCurvesModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+enum class ETranslateFreePointsModeType : int32_t
+{
+    Unknown = 0,
+    All = 1,
+    None = 2,
+};
+
+enum class EImportProductStructureRepresentationMode : int32_t
+{
+    Unknown = 0,
+    AsmRep = 1,
+    SavedVisuRep = 2,
+    AsmRepAndSavedVisuRep = 3,
+};
+
+} // namespace hrm
+
+HRM_DECLARE_ENUM_STRINGS(hrm::ELogEventLevelType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ELogFileEncodingType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ELoggingModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EMemoryManagementModeFlags)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETranslateReferenceGeometryMode)
+HRM_DECLARE_ENUM_STRINGS(hrm::EVisuBRepTessellationModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EVisuTextDataMode)
+HRM_DECLARE_ENUM_STRINGS(hrm::EVisuTextStrokingMode)
+HRM_DECLARE_ENUM_STRINGS(hrm::EFeatureToleranceProcessingModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EMiscDataProcessingModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EAcisSplineResurfacingModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EAttributeProcessingModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EAcisHealType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EPreserveMfgModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EPreserveModelAssociativityModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EPreservePMIModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETopologicalEntityInspectorModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EVisuPMIProcessingMode)
+HRM_DECLARE_ENUM_STRINGS(hrm::EImportEntities)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETranslateHiddenEntitiesModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EAssemblyPathPrefType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EProcessInWorkObjectModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ENameProcessingModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EAssemblyUnfoldedViewMode)
+HRM_DECLARE_ENUM_STRINGS(hrm::EImportMfgProcessingModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETranslateSuppressedEntitiesModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EProcessMfgDataModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EDocumentDelayLoadingMode)
+HRM_DECLARE_ENUM_STRINGS(hrm::EEdgeAttributeModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EImportMfgHolesOnSheetsMode)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETranslateDrivingDimensionsModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETranslateConstructionGeometriesModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ECopiousDataModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETrimCurveImportPreferenceModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EActiveStateProcessingModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EImportEdgesModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EUserPropertiesModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETranslateFreeCurvesModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::ETranslateFreePointsModeType)
+HRM_DECLARE_ENUM_STRINGS(hrm::EImportProductStructureRepresentationMode)
