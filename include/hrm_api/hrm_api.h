@@ -10,6 +10,7 @@
 #include <hrm_api/hrm_api_enums_legacy.h>
 #include <hrm_api/hrm_api_enums_options.h>
 #include <hrm_api/hrm_api_exchange_common.h>
+#include <hrm_api/hrm_api_exchange_object.h>
 #include <logging/ax_herm_logger.h>
 #include <mp/mp_exception.h>
 #include <mp/mp_serializable.h>
