@@ -11,7 +11,7 @@
 
 namespace hrm {
 
-enum class ELengthUnitType : int32_t
+enum class HRM_API_TYPE ELengthUnitType : int32_t
 {
     Unknown = 0,
     ModelUnit = 1,
@@ -30,7 +30,7 @@ enum class ELengthUnitType : int32_t
 };
 
 // Value 2 has no unit (and no string).
-enum class EMassUnitType : int32_t
+enum class HRM_API_TYPE EMassUnitType : int32_t
 {
     Unknown = 0,
     ModelUnit = 1,
@@ -44,7 +44,7 @@ enum class EMassUnitType : int32_t
     LbfSec2PerInch = 10,
 };
 
-enum class ETimeUnitType : int32_t
+enum class HRM_API_TYPE ETimeUnitType : int32_t
 {
     Unknown = 0,
     ModelUnit = 1,
@@ -57,7 +57,7 @@ enum class ETimeUnitType : int32_t
     Day = 8,
 };
 
-enum class ETemperatureUnitType : int32_t
+enum class HRM_API_TYPE ETemperatureUnitType : int32_t
 {
     Unknown = 0,
     ModelUnit = 1,
@@ -66,7 +66,7 @@ enum class ETemperatureUnitType : int32_t
     Kelvin = 4,
 };
 
-enum class EWorldOrientation : int32_t
+enum class HRM_API_TYPE EWorldOrientation : int32_t
 {
     Unknown = 0,
     UpX = 1,
@@ -75,7 +75,7 @@ enum class EWorldOrientation : int32_t
 };
 
 // What a format options object is for: options shared by every direction, import or export.
-enum class EOperationType : int32_t
+enum class HRM_API_TYPE EOperationType : int32_t
 {
     Options = 0,
     Import = 1,
@@ -83,7 +83,7 @@ enum class EOperationType : int32_t
 };
 
 // The file format of a format options object; also the formats a translator announces.
-enum class EFormatType : int32_t
+enum class HRM_API_TYPE EFormatType : int32_t
 {
     Unknown = 0,
     General = 1,

@@ -9,7 +9,7 @@
 
 namespace hrm {
 
-enum class ELayerNameProcessingModeType : int32_t
+enum class HRM_API_TYPE ELayerNameProcessingModeType : int32_t
 {
     Unknown = 0,
     AsmRep = 1,
@@ -17,42 +17,42 @@ enum class ELayerNameProcessingModeType : int32_t
 };
 
 // Value 1 travels as the word "false".
-enum class EDefaultColorMode : int32_t
+enum class HRM_API_TYPE EDefaultColorMode : int32_t
 {
     Unknown = 0,
     False = 1,
     CatiaV5 = 2,
 };
 
-enum class EGraphicalPMIContainerMode : int32_t
+enum class HRM_API_TYPE EGraphicalPMIContainerMode : int32_t
 {
     Unknown = 0,
     True = 1,
     False = 2,
 };
 
-enum class EEdgeCurveMode : int32_t
+enum class HRM_API_TYPE EEdgeCurveMode : int32_t
 {
     Unknown = 0,
     Curves2dAnd3d = 1,
     Curves2d = 2,
 };
 
-enum class EExportCgrCompatibilityMode : int32_t
+enum class HRM_API_TYPE EExportCgrCompatibilityMode : int32_t
 {
     Unknown = 0,
     CatiaV5 = 1,
     Catia3DExperience = 2,
 };
 
-enum class EExportSaveMode : int32_t
+enum class HRM_API_TYPE EExportSaveMode : int32_t
 {
     Unknown = 0,
     Text = 1,
     BinaryLE = 2,
 };
 
-enum class EExportVersionStep : int32_t
+enum class HRM_API_TYPE EExportVersionStep : int32_t
 {
     Unknown = 0,
     AP203 = 1,
@@ -60,7 +60,7 @@ enum class EExportVersionStep : int32_t
     AP242 = 3,
 };
 
-enum class EExportVersionCatiaV4 : int32_t
+enum class HRM_API_TYPE EExportVersionCatiaV4 : int32_t
 {
     Unknown = 0,
     V4_1_9 = 1,
@@ -73,7 +73,7 @@ enum class EExportVersionCatiaV4 : int32_t
 
 // Versions of the exported file; each starts with Unknown and Current.
 
-enum class EExportVersionAcis : int32_t
+enum class HRM_API_TYPE EExportVersionAcis : int32_t
 {
     Unknown = 0,
     Current = 1,
@@ -93,7 +93,7 @@ enum class EExportVersionAcis : int32_t
     V2021_1_0 = 15,
 };
 
-enum class EExportVersionParasolid : int32_t
+enum class HRM_API_TYPE EExportVersionParasolid : int32_t
 {
     Unknown = 0,
     Current = 1,
@@ -121,7 +121,7 @@ enum class EExportVersionParasolid : int32_t
     R33 = 23,
 };
 
-enum class EExportVersionCatiaV5 : int32_t
+enum class HRM_API_TYPE EExportVersionCatiaV5 : int32_t
 {
     Unknown = 0,
     Current = 1,
@@ -143,7 +143,7 @@ enum class EExportVersionCatiaV5 : int32_t
     V5_6R2021 = 17,
 };
 
-enum class EExportVersionXCGM : int32_t
+enum class HRM_API_TYPE EExportVersionXCGM : int32_t
 {
     Unknown = 0,
     Current = 1,

@@ -10,7 +10,7 @@
 namespace hrm {
 
 // Units of "ins_units_def_source" and "ins_units_def_target".
-enum class ELegacyInsertionUnits : int32_t
+enum class HRM_API_TYPE ELegacyInsertionUnits : int32_t
 {
     Undefined = 0,
     Inches = 1,
@@ -39,21 +39,21 @@ enum class ELegacyInsertionUnits : int32_t
     USSurveyMil = 24,
 };
 
-enum class ELegacyPMIMode : int32_t
+enum class HRM_API_TYPE ELegacyPMIMode : int32_t
 {
     None = 0,
     Graphical = 1,
     Semantic = 2,
 };
 
-enum class ELegacyProductStructureMode : int32_t
+enum class HRM_API_TYPE ELegacyProductStructureMode : int32_t
 {
     None = 0,
     AsBlocks = 1,
     AsMechanicalComponents = 2,
 };
 
-enum class ELegacyColorsMode : int32_t
+enum class HRM_API_TYPE ELegacyColorsMode : int32_t
 {
     RGB = 0,
     NearestIndex = 2,
@@ -62,7 +62,7 @@ enum class ELegacyColorsMode : int32_t
 
 // Hidden parts on import: skipped, imported hidden, or imported shown. An unknown word reads
 // as DoNotImport, an unknown value writes "import_hide".
-enum class ELegacyHiddenPartsImportMode : int32_t
+enum class HRM_API_TYPE ELegacyHiddenPartsImportMode : int32_t
 {
     DoNotImport = 2,
     ImportHide = 0,
@@ -70,7 +70,7 @@ enum class ELegacyHiddenPartsImportMode : int32_t
 };
 
 // The export counterpart, numbered like the import one.
-enum class ELegacyHiddenComponentsExportMode : int32_t
+enum class HRM_API_TYPE ELegacyHiddenComponentsExportMode : int32_t
 {
     DoNotExport = 2,
     ExportHide = 0,

@@ -11,7 +11,7 @@ namespace hrm {
 
 // Options shared by import and export (general, graphical, mechanical, modeler)
 
-enum class ELogEventLevelType : int32_t
+enum class HRM_API_TYPE ELogEventLevelType : int32_t
 {
     Unknown = 0,
     None = 1,
@@ -22,7 +22,7 @@ enum class ELogEventLevelType : int32_t
     Verbose = 6,
 };
 
-enum class ELogFileEncodingType : int32_t
+enum class HRM_API_TYPE ELogFileEncodingType : int32_t
 {
     Unknown = 0,
     UsAscii = 1,
@@ -31,7 +31,7 @@ enum class ELogFileEncodingType : int32_t
     Utf16 = 4,
 };
 
-enum class ELoggingModeType : int32_t
+enum class HRM_API_TYPE ELoggingModeType : int32_t
 {
     Unknown = 0,
     Atomic = 1,
@@ -40,7 +40,7 @@ enum class ELoggingModeType : int32_t
 
 // Which translated data is kept in memory: a combination of the Keep flags, or Unknown. Only
 // the listed values have a word, so a combination such as 6 is written as "keep_none".
-enum class EMemoryManagementModeFlags : int32_t
+enum class HRM_API_TYPE EMemoryManagementModeFlags : int32_t
 {
     Unknown = 255,
     KeepNone = 0,
@@ -50,14 +50,14 @@ enum class EMemoryManagementModeFlags : int32_t
     KeepAsmMech = 8,
 };
 
-enum class ETranslateReferenceGeometryMode : int32_t
+enum class HRM_API_TYPE ETranslateReferenceGeometryMode : int32_t
 {
     Unknown = 0,
     True = 1,
     False = 2,
 };
 
-enum class EVisuBRepTessellationModeType : int32_t
+enum class HRM_API_TYPE EVisuBRepTessellationModeType : int32_t
 {
     Unknown = 0,
     Auto = 1,
@@ -65,14 +65,14 @@ enum class EVisuBRepTessellationModeType : int32_t
     NeverAtLeastNativePMI = 3,
 };
 
-enum class EVisuTextDataMode : int32_t
+enum class HRM_API_TYPE EVisuTextDataMode : int32_t
 {
     Unknown = 0,
     AsString = 1,
     AsStroked = 2,
 };
 
-enum class EVisuTextStrokingMode : int32_t
+enum class HRM_API_TYPE EVisuTextStrokingMode : int32_t
 {
     Unknown = 0,
     FromSourceNative = 1,
@@ -82,21 +82,21 @@ enum class EVisuTextStrokingMode : int32_t
     FromIop = 5,
 };
 
-enum class EFeatureToleranceProcessingModeType : int32_t
+enum class HRM_API_TYPE EFeatureToleranceProcessingModeType : int32_t
 {
     Unknown = 0,
     All = 1,
     None = 2,
 };
 
-enum class EMiscDataProcessingModeType : int32_t
+enum class HRM_API_TYPE EMiscDataProcessingModeType : int32_t
 {
     Unknown = 0,
     All = 1,
     None = 2,
 };
 
-enum class EAcisSplineResurfacingModeType : int32_t
+enum class HRM_API_TYPE EAcisSplineResurfacingModeType : int32_t
 {
     Unknown = 0,
     None = 1,
@@ -104,14 +104,14 @@ enum class EAcisSplineResurfacingModeType : int32_t
     ErroneousAndShortSurfaces = 3,
 };
 
-enum class EAttributeProcessingModeType : int32_t
+enum class HRM_API_TYPE EAttributeProcessingModeType : int32_t
 {
     Unknown = 0,
     All = 1,
     None = 2,
 };
 
-enum class EAcisHealType : int32_t
+enum class HRM_API_TYPE EAcisHealType : int32_t
 {
     Unknown = 0,
     None = 1,
@@ -119,28 +119,28 @@ enum class EAcisHealType : int32_t
     Standard = 3,
 };
 
-enum class EPreserveMfgModeType : int32_t
+enum class HRM_API_TYPE EPreserveMfgModeType : int32_t
 {
     Unknown = 0,
     Disabled = 1,
     DecorateAllMfg = 2,
 };
 
-enum class EPreserveModelAssociativityModeType : int32_t
+enum class HRM_API_TYPE EPreserveModelAssociativityModeType : int32_t
 {
     Unknown = 0,
     Disabled = 1,
     DecorateAll = 2,
 };
 
-enum class EPreservePMIModeType : int32_t
+enum class HRM_API_TYPE EPreservePMIModeType : int32_t
 {
     Unknown = 0,
     Disabled = 1,
     DecorateAllPMI = 2,
 };
 
-enum class ETopologicalEntityInspectorModeType : int32_t
+enum class HRM_API_TYPE ETopologicalEntityInspectorModeType : int32_t
 {
     Unknown = 0,
     Process = 1,
@@ -149,21 +149,21 @@ enum class ETopologicalEntityInspectorModeType : int32_t
 
 // Import options
 
-enum class EVisuPMIProcessingMode : int32_t
+enum class HRM_API_TYPE EVisuPMIProcessingMode : int32_t
 {
     Unknown = 0,
     All = 1,
     None = 2,
 };
 
-enum class EImportEntities : int32_t
+enum class HRM_API_TYPE EImportEntities : int32_t
 {
     Unknown = 0,
     RootOnly = 1,
     RootAndNonRoot = 2,
 };
 
-enum class ETranslateHiddenEntitiesModeType : int32_t
+enum class HRM_API_TYPE ETranslateHiddenEntitiesModeType : int32_t
 {
     Unknown = 0,
     All = 1,
@@ -171,7 +171,7 @@ enum class ETranslateHiddenEntitiesModeType : int32_t
     OnlyWithVisibleLinks = 3,
 };
 
-enum class EAssemblyPathPrefType : int32_t
+enum class HRM_API_TYPE EAssemblyPathPrefType : int32_t
 {
     Unknown = 0,
     SubfoldersFirst = 1,
@@ -179,42 +179,42 @@ enum class EAssemblyPathPrefType : int32_t
     RootFolderFirst = 3,
 };
 
-enum class EProcessInWorkObjectModeType : int32_t
+enum class HRM_API_TYPE EProcessInWorkObjectModeType : int32_t
 {
     Unknown = 0,
     True = 1,
     False = 2,
 };
 
-enum class ENameProcessingModeType : int32_t
+enum class HRM_API_TYPE ENameProcessingModeType : int32_t
 {
     Unknown = 0,
     ShortNames = 1,
     LongNames = 2,
 };
 
-enum class EAssemblyUnfoldedViewMode : int32_t
+enum class HRM_API_TYPE EAssemblyUnfoldedViewMode : int32_t
 {
     Unknown = 0,
     True = 1,
     False = 2,
 };
 
-enum class EImportMfgProcessingModeType : int32_t
+enum class HRM_API_TYPE EImportMfgProcessingModeType : int32_t
 {
     Unknown = 0,
     FeaturesOnly = 1,
     ResultsOnly = 2,
 };
 
-enum class ETranslateSuppressedEntitiesModeType : int32_t
+enum class HRM_API_TYPE ETranslateSuppressedEntitiesModeType : int32_t
 {
     Unknown = 0,
     All = 1,
     None = 2,
 };
 
-enum class EProcessMfgDataModeType : int32_t
+enum class HRM_API_TYPE EProcessMfgDataModeType : int32_t
 {
     Unknown = 0,
     All = 1,
@@ -222,13 +222,13 @@ enum class EProcessMfgDataModeType : int32_t
 };
 
 // Has no Unknown: an unknown word reads as None.
-enum class EDocumentDelayLoadingMode : int32_t
+enum class HRM_API_TYPE EDocumentDelayLoadingMode : int32_t
 {
     None = 0,
     Part = 1,
 };
 
-enum class EEdgeAttributeModeType : int32_t
+enum class HRM_API_TYPE EEdgeAttributeModeType : int32_t
 {
     Unknown = 0,
     None = 1,
@@ -237,28 +237,28 @@ enum class EEdgeAttributeModeType : int32_t
     WireBodyOnly = 4,
 };
 
-enum class EImportMfgHolesOnSheetsMode : int32_t
+enum class HRM_API_TYPE EImportMfgHolesOnSheetsMode : int32_t
 {
     Unknown = 0,
     Ignore = 1,
     Include = 2,
 };
 
-enum class ETranslateDrivingDimensionsModeType : int32_t
+enum class HRM_API_TYPE ETranslateDrivingDimensionsModeType : int32_t
 {
     Unknown = 0,
     True = 1,
     False = 2,
 };
 
-enum class ETranslateConstructionGeometriesModeType : int32_t
+enum class HRM_API_TYPE ETranslateConstructionGeometriesModeType : int32_t
 {
     Unknown = 0,
     True = 1,
     False = 2,
 };
 
-enum class ECopiousDataModeType : int32_t
+enum class HRM_API_TYPE ECopiousDataModeType : int32_t
 {
     Unknown = 0,
     SingleBSpline = 1,
@@ -268,7 +268,7 @@ enum class ECopiousDataModeType : int32_t
 
 // Prefer2d and Prefer3d are one value: both words read as 1, which is written as "2d". Value 2
 // has no word and is written as "unknown".
-enum class ETrimCurveImportPreferenceModeType : int32_t
+enum class HRM_API_TYPE ETrimCurveImportPreferenceModeType : int32_t
 {
     Unknown = 0,
     Prefer2d = 1,
@@ -276,42 +276,42 @@ enum class ETrimCurveImportPreferenceModeType : int32_t
     FromSource = 3,
 };
 
-enum class EActiveStateProcessingModeType : int32_t
+enum class HRM_API_TYPE EActiveStateProcessingModeType : int32_t
 {
     Unknown = 0,
     ActiveOnly = 1,
     ActiveAndInactive = 2,
 };
 
-enum class EImportEdgesModeType : int32_t
+enum class HRM_API_TYPE EImportEdgesModeType : int32_t
 {
     Unknown = 0,
     All = 1,
     None = 2,
 };
 
-enum class EUserPropertiesModeType : int32_t
+enum class HRM_API_TYPE EUserPropertiesModeType : int32_t
 {
     Unknown = 0,
     TranslateAll = 1,
     TranslateNone = 2,
 };
 
-enum class ETranslateFreeCurvesModeType : int32_t
+enum class HRM_API_TYPE ETranslateFreeCurvesModeType : int32_t
 {
     Unknown = 0,
     All = 1,
     None = 2,
 };
 
-enum class ETranslateFreePointsModeType : int32_t
+enum class HRM_API_TYPE ETranslateFreePointsModeType : int32_t
 {
     Unknown = 0,
     All = 1,
     None = 2,
 };
 
-enum class EImportProductStructureRepresentationMode : int32_t
+enum class HRM_API_TYPE EImportProductStructureRepresentationMode : int32_t
 {
     Unknown = 0,
     AsmRep = 1,

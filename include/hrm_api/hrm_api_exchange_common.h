@@ -128,7 +128,7 @@ private:
 class HRM_API ExcColor : public IJsonObject
 {
 public:
-    enum class EChannel : int32_t
+    enum class HRM_API_TYPE EChannel : int32_t
     {
         Red = 0,
         Green = 1,

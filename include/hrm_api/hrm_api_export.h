@@ -12,3 +12,11 @@
 #else
 #  define HRM_API __attribute__((visibility("default")))
 #endif
+
+// HRM_API_TYPE marks enumerations of the interface. They need default visibility too: clang
+// gives an instantiation of an exported template no more visibility than its arguments have.
+#if defined(_WIN32)
+#  define HRM_API_TYPE
+#else
+#  define HRM_API_TYPE __attribute__((visibility("default")))
+#endif

@@ -60,7 +60,8 @@ bool Logger::isOpen() const
 std::ostream& Logger::stream(int level)
 {
     const std::tm now = localTime(std::chrono::system_clock::to_time_t(std::chrono::system_clock::now()));
-    m_stream << levelTag(level) << '[' << std::put_time(&now, "%d.%m.%Y %T") << "] ";
+    // Spelt out rather than "%T": the C runtime of Windows (msvcrt) does not know "%T".
+    m_stream << levelTag(level) << '[' << std::put_time(&now, "%d.%m.%Y %H:%M:%S") << "] ";
     return m_stream;
 }
 
