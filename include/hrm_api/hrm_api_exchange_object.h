@@ -316,7 +316,7 @@ private:
 class HRM_API LegacyMaterialMap : public ExchangeObjectType<LegacyMaterialMap>
 {
 public:
-    struct Material
+    struct HRM_API Material
     {
         bool hasMaterial = false;
         std::wstring name;

@@ -7,6 +7,7 @@
 #include <boost/interprocess/mapped_region.hpp>
 #include <boost/interprocess/shared_memory_object.hpp>
 
+#include <cstdio>
 #include <cstring>
 #include <utility>
 
@@ -34,6 +35,24 @@ ipc::permissions ownerOnly()
 #endif
     // On Windows the default security descriptor already limits access to the creator.
     return permissions;
+}
+
+bool removeObject(const std::string& name)
+{
+#if defined(_WIN32)
+    // On Windows the object is a file in Boost's shared folder. Boost's own removal emulates
+    // unlink with a rename and a delete-on-close that fails in optimised mingw builds; deleting
+    // the file directly works (while it is still open elsewhere, once the last handle closes).
+    try {
+        std::string path;
+        ipc::ipcdetail::shared_filepath(name.c_str(), path);
+        return std::remove(path.c_str()) == 0;
+    } catch (...) {
+        return false;
+    }
+#else
+    return ipc::shared_memory_object::remove(name.c_str());
+#endif
 }
 
 } // namespace
@@ -131,7 +150,7 @@ void SharedBuffer<char>::clear()
 
 bool SharedBuffer<char>::remove(const std::wstring& name)
 {
-    return !name.empty() && ipc::shared_memory_object::remove(hrm::toNarrow(name).c_str());
+    return !name.empty() && removeObject(hrm::toNarrow(name));
 }
 
 } // namespace mp
