@@ -3,6 +3,22 @@
 // The compact binary encoding of a JSON value: a one-byte tag, then the payload, integers and
 // doubles little-endian, strings as UTF-16LE code units, containers prefixed by the byte
 // length of their body.
+//
+//   tag  value            payload
+//   0    null             -
+//   1    false            -
+//   2    true             -
+//   3    object           8-byte body length, then per member: name (as tag 5), value
+//   4    array            8-byte body length, then the elements
+//   5    string           8-byte length in UTF-16 code units, then the units
+//   6    int32            4 bytes        7  uint32   4 bytes
+//   8    int64            8 bytes        9  uint64   8 bytes
+//   10   double           8 bytes (IEEE 754 binary64)
+//
+// A number takes the first of int32, uint32, int64, uint64, double that holds it, so the
+// integer kinds and doubles survive a round trip. On every platform the strings travel as
+// UTF-16: where wchar_t holds code points, characters above U+FFFF become surrogate pairs and
+// a valid pair read back becomes one character again; a lone surrogate travels as itself.
 
 #include <hrm_api/hrm_api_json.h>
 
@@ -16,14 +32,36 @@ namespace hrm {
 class HRM_API JsonBinaryIO
 {
 public:
-    // Appends the encoding of `value` to `out`.
+    // Containers nested deeper than this are refused while decoding (the top-level container
+    // is at depth 1), so that hostile data cannot build a document that recursive consumers
+    // cannot walk.
+    static constexpr size_t maxNestingDepth = 512;
+
+    // Appends the encoding of `value` to `out`. Throws std::invalid_argument("JsonBinaryIO:
+    // Unknown number type") for a number of no known kind; `out` then holds a partial value.
     static void encode(const JsonValue& value, std::vector<char>& out);
-    // Decodes one value from the start of `data` into `value`, allocating from `allocator`;
-    // returns the number of bytes consumed.
+
+    // Decodes one value from the start of the `size` bytes at `data` into `value`, allocating
+    // its strings and containers from `allocator`; returns the number of bytes consumed.
+    // A container ends at the first member or element that reaches or passes its recorded
+    // body length. Failures leave `value` partly built:
+    // - std::length_error: no tag byte ("JsonBinaryIO: Failed to parse all bytes of type"), a
+    //   short number or length ("... Failed to read all the number of bytes"), short string
+    //   data ("... Failed to read all the bytes of string"); nothing is allocated for a length
+    //   the data does not hold;
+    // - std::invalid_argument: a tag above 10 ("JsonBinaryIO: Unknown value type"), a member
+    //   name that is not a string ("JsonBinaryIO: Member name is not a string"), nesting deeper
+    //   than maxNestingDepth ("JsonBinaryIO: Nesting too deep").
     static size_t decode(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator);
 
-    // The stream forms: the same bytes and the same exceptions as encode / decode.
+    // Writes the encoding of `value` at the put position in one write.
     static std::ostream& write(std::ostream& out, const JsonValue& value);
+
+    // Decodes one value at the get position from the bytes the stream's buffer can deliver
+    // without blocking (all of a string stream; what a file stream reports as available), then
+    // leaves the get position just after the value, so that values written back to back are
+    // read one by one. The stream must support tellg and seekg. Throws as decode; the bytes
+    // taken from the stream then stay consumed.
     static std::istream& read(std::istream& in, JsonValue& value, JsonAllocator& allocator);
 };
 

@@ -23,7 +23,8 @@
 //
 // Fixed-size arrays (vectors, colour channels, matrix rows) are read element by element with
 // readLeadingElements and an element rule such as readStoredDouble; arrays of doubles are
-// written with jsonDoubles.
+// written with jsonDoubles. Lists of strings and sets of enumerations travel as arrays of
+// strings (strings, enumerations); on reading, only an array of strings replaces the field.
 
 #include <hrm_api/hrm_api_enum.h>
 #include <hrm_api/hrm_api_json.h>
@@ -32,6 +33,7 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -134,6 +136,21 @@ public:
         return add(key, std::move(array));
     }
 
+    // An array of strings, one per element.
+    JsonObjectWriter& strings(const wchar_t* key, const std::vector<std::wstring>& texts)
+    {
+        const auto same = [](const std::wstring& text) -> const std::wstring& { return text; };
+        return add(key, stringArray(texts.begin(), texts.end(), same));
+    }
+
+    // An array with the word of each value, in ascending order of value.
+    template <class E>
+    JsonObjectWriter& enumerations(const wchar_t* key, const std::set<E>& values)
+    {
+        const auto word = [](E value) -> const std::wstring& { return enumToString(value); };
+        return add(key, stringArray(values.begin(), values.end(), word));
+    }
+
     JsonObjectWriter& add(const wchar_t* key, JsonValue&& member)
     {
         m_value.AddMember(rapidjson::StringRef(key), member, m_allocator);
@@ -143,6 +160,16 @@ public:
     JsonAllocator& allocator() { return m_allocator; }
 
 private:
+    template <class Iterator, class ToText>
+    JsonValue stringArray(Iterator first, Iterator last, ToText toText)
+    {
+        JsonValue array(rapidjson::kArrayType);
+        array.Reserve(static_cast<rapidjson::SizeType>(std::distance(first, last)), m_allocator);
+        for (; first != last; ++first)
+            array.PushBack(jsonString(toText(*first), m_allocator), m_allocator);
+        return array;
+    }
+
     JsonValue& m_value;
     JsonAllocator& m_allocator;
 };
@@ -249,7 +276,44 @@ public:
         return *this;
     }
 
+    // An array whose elements are all strings replaces `field`; anything else leaves it.
+    JsonObjectReader& strings(const wchar_t* key, std::vector<std::wstring>& field)
+    {
+        return stringArray(key, [&field](const JsonValue& array) {
+            field.clear();
+            for (const JsonValue& element : array.GetArray())
+                field.push_back(wideString(element));
+        });
+    }
+
+    // An array whose elements are all strings replaces `field` by the values of those words;
+    // anything else (another kind, or an array holding a non-string) leaves it.
+    template <class E>
+    JsonObjectReader& enumerations(const wchar_t* key, std::set<E>& field)
+    {
+        return stringArray(key, [&field](const JsonValue& array) {
+            field.clear();
+            for (const JsonValue& element : array.GetArray())
+                field.insert(enumFromString<E>(wideString(element)));
+        });
+    }
+
 private:
+    // Hands the member to `store` when it is an array of strings only.
+    template <class Store>
+    JsonObjectReader& stringArray(const wchar_t* key, Store store)
+    {
+        const JsonValue* member = find(key);
+        if (!member || !member->IsArray())
+            return *this;
+        for (const JsonValue& element : member->GetArray()) {
+            if (!element.IsString())
+                return *this;
+        }
+        store(*member);
+        return *this;
+    }
+
     const JsonValue* m_value;
 };
 

@@ -1,0 +1,198 @@
+#pragma once
+
+// The options of import and export commands, and the base of the per-format options they
+// hold (hrm_api_format_options.h).
+
+#include <hrm_api/hrm_api_enums.h>
+#include <hrm_api/hrm_api_export.h>
+#include <hrm_api/hrm_api_json.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <type_traits>
+
+namespace hrm {
+
+class OptionsKeyTable; // an options class's keys, in the order written and read (inside the library)
+
+// How one file format (or one common aspect: general, graphical, mechanical, modeler) is to be
+// translated. The object's JSON starts with its head, "operation_type" and "format_type".
+class HRM_API IFormatOptions : public IJsonObject
+{
+public:
+    ~IFormatOptions() override;
+    // Reads the head and checks it against this object's types; a mismatch is only logged.
+    void readObject(const JsonValue& value) override;
+    // Makes `value` an object holding the head.
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+    virtual EFormatType formatType() const = 0;
+    virtual EOperationType operationType() const = 0;
+
+    // A new options object of the class that the value's head names, filled from the value;
+    // empty (with a log line) when the value names no options class.
+    static std::shared_ptr<IFormatOptions> readOptions(const JsonValue& value);
+
+protected:
+    // The whole reading and writing of an options class: the head, then each key of `table`.
+    void readKeys(const JsonValue& value, const OptionsKeyTable& table);
+    void writeKeys(JsonValue& value, JsonAllocator& allocator, const OptionsKeyTable& table) const;
+};
+
+// Two options objects are equal when they write the same JSON.
+HRM_API bool operator==(const IFormatOptions& a, const IFormatOptions& b);
+inline bool operator!=(const IFormatOptions& a, const IFormatOptions& b) { return !(a == b); }
+
+namespace imp {
+// The base of the options of one import format.
+class HRM_API FormatOptions : public IFormatOptions
+{
+public:
+    EOperationType operationType() const override { return EOperationType::Import; }
+};
+} // namespace imp
+
+namespace exp {
+// The base of the options of one export format.
+class HRM_API FormatOptions : public IFormatOptions
+{
+public:
+    EOperationType operationType() const override { return EOperationType::Export; }
+};
+} // namespace exp
+
+// Every options class derives from FormatOptionsBase<itself, operation, format> and gives
+// its key table as `static const OptionsKeyTable& keyTable()`; reading and writing follow
+// that table.
+template <EOperationType Operation>
+using FormatOptionsInterface = std::conditional_t<Operation == EOperationType::Import, imp::FormatOptions,
+    std::conditional_t<Operation == EOperationType::Export, exp::FormatOptions, IFormatOptions>>;
+
+template <class Derived, EOperationType Operation, EFormatType Format>
+class FormatOptionsBase : public FormatOptionsInterface<Operation>
+{
+public:
+    void readObject(const JsonValue& value) override { this->readKeys(value, Derived::keyTable()); }
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override
+    {
+        this->writeKeys(value, allocator, Derived::keyTable());
+    }
+    EFormatType formatType() const override { return Format; }
+    EOperationType operationType() const override { return Operation; }
+};
+
+// The at most one options object per format that an import or export carries.
+using FormatOptionsMap = std::map<EFormatType, std::shared_ptr<IFormatOptions>>;
+
+// The options object of an import or export command.
+class HRM_API HermetorOptions : public IJsonObject
+{
+public:
+    ~HermetorOptions() override;
+    virtual EOperationType operationType() const = 0;
+};
+
+class HRM_API ImportOptions : public HermetorOptions
+{
+public:
+    EOperationType operationType() const override { return EOperationType::Import; }
+
+    virtual const std::wstring& file() const = 0;
+    virtual void setFile(const std::wstring& file) = 0;
+    virtual bool forceMPMode() const = 0;
+    virtual void setForceMPMode(bool value) = 0;
+    virtual bool translateWorldOrientation() const = 0;
+    virtual void setTranslateWorldOrientation(bool value) = 0;
+    virtual bool translateMiscData() const = 0;
+    virtual void setTranslateMiscData(bool value) = 0;
+    virtual int32_t modelerVersion() const = 0;
+    virtual void setModelerVersion(int32_t value) = 0;
+    // The options stored for `type`, or an empty pointer.
+    virtual std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) const = 0;
+    // Stores `options` under its format type, replacing an earlier one; an empty pointer is ignored.
+    virtual void setFormatOptions(std::shared_ptr<IFormatOptions> options) = 0;
+};
+
+class HRM_API ExportOptions : public HermetorOptions
+{
+public:
+    EOperationType operationType() const override { return EOperationType::Export; }
+
+    virtual const std::wstring& file() const = 0;
+    virtual void setFile(const std::wstring& file) = 0;
+    virtual const std::wstring& formatVersion() const = 0;
+    virtual void setFormatVersion(const std::wstring& value) = 0;
+    virtual int32_t geometryFlags() const = 0;
+    virtual void setGeometryFlags(int32_t value) = 0;
+    virtual std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) const = 0;
+    virtual void setFormatOptions(std::shared_ptr<IFormatOptions> options) = 0;
+};
+
+// Keys: "file", "force_mp_mode", "translate_world_orientation", "translate_misc_data",
+// "format_options" (only when some are stored), "modeler_version".
+class HRM_API ImportOptionsImpl : public ImportOptions
+{
+public:
+    const std::wstring& file() const override { return m_file; }
+    void setFile(const std::wstring& file) override { m_file = file; }
+    bool forceMPMode() const override { return m_forceMPMode; }
+    void setForceMPMode(bool value) override { m_forceMPMode = value; }
+    bool translateWorldOrientation() const override { return m_translateWorldOrientation; }
+    void setTranslateWorldOrientation(bool value) override { m_translateWorldOrientation = value; }
+    bool translateMiscData() const override { return m_translateMiscData; }
+    void setTranslateMiscData(bool value) override { m_translateMiscData = value; }
+    int32_t modelerVersion() const override { return m_modelerVersion; }
+    void setModelerVersion(int32_t value) override { m_modelerVersion = value; }
+    std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) const override;
+    void setFormatOptions(std::shared_ptr<IFormatOptions> options) override;
+
+    // Throws std::invalid_argument for a value that is no object ("!object.IsObject()") or
+    // has no "file" string ("Json document has no valid file path.").
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+    // Equal fields, and format options that are equal type by type.
+    bool operator==(const ImportOptionsImpl& other) const;
+    bool operator!=(const ImportOptionsImpl& other) const { return !(*this == other); }
+
+private:
+    std::wstring m_file;
+    bool m_forceMPMode = false;
+    bool m_translateWorldOrientation = false;
+    bool m_translateMiscData = false;
+    FormatOptionsMap m_formatOptions;
+    int32_t m_modelerVersion = 31;
+};
+
+// Keys: "file", "format_version" (only when not empty), "geometry_flags", "format_options"
+// (only when some are stored).
+class HRM_API ExportOptionsImpl : public ExportOptions
+{
+public:
+    const std::wstring& file() const override { return m_file; }
+    void setFile(const std::wstring& file) override { m_file = file; }
+    const std::wstring& formatVersion() const override { return m_formatVersion; }
+    void setFormatVersion(const std::wstring& value) override { m_formatVersion = value; }
+    int32_t geometryFlags() const override { return m_geometryFlags; }
+    void setGeometryFlags(int32_t value) override { m_geometryFlags = value; }
+    std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) const override;
+    void setFormatOptions(std::shared_ptr<IFormatOptions> options) override;
+
+    // Throws as ImportOptionsImpl::readObject does.
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+    bool operator==(const ExportOptionsImpl& other) const;
+    bool operator!=(const ExportOptionsImpl& other) const { return !(*this == other); }
+
+private:
+    void logFields() const;
+
+    std::wstring m_file;
+    std::wstring m_formatVersion;
+    int32_t m_geometryFlags = 0;
+    FormatOptionsMap m_formatOptions;
+};
+
+} // namespace hrm

@@ -1,0 +1,562 @@
+#pragma once
+
+// The format options of the common aspects (hrm::Options...) and of the import formats
+// (hrm::imp::Options...). Each class lists its JSON keys in the order written and read, after
+// the head "operation_type", "format_type". Enumerations travel as their words; a key that is
+// missing or mistyped on reading leaves its field as it is.
+
+#include <hrm_api/hrm_api_command_options.h>
+#include <hrm_api/hrm_api_enum.h>
+#include <hrm_api/hrm_api_enums.h>
+#include <hrm_api/hrm_api_enums_options.h>
+#include <hrm_api/hrm_api_export.h>
+
+#include <cstdint>
+#include <set>
+#include <string>
+
+namespace hrm {
+
+// Which topological entities receive persistent names on import. Travels as "unknown",
+// "bodies", "faces", "edges", "vertices".
+enum class HRM_API_TYPE EPersistentNameProcessingModeType : int32_t
+{
+    Unknown = 0,
+    Bodies = 1,
+    Faces = 2,
+    Edges = 3,
+    Vertices = 4,
+};
+
+} // namespace hrm
+
+HRM_DECLARE_ENUM_STRINGS(hrm::EPersistentNameProcessingModeType)
+
+namespace hrm {
+
+// Keys: "log_event_level_type", "log_file_encoding_type", "log_file_name", "logging_mode_type",
+// "logging_output_directory", "memory_management_mode".
+class HRM_API OptionsGeneral final : public FormatOptionsBase<OptionsGeneral, EOperationType::Options, EFormatType::General>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    ELogEventLevelType logEventLevel() const { return m_logEventLevel; }
+    void setLogEventLevel(ELogEventLevelType value) { m_logEventLevel = value; }
+    ELogFileEncodingType logFileEncoding() const { return m_logFileEncoding; }
+    void setLogFileEncoding(ELogFileEncodingType value) { m_logFileEncoding = value; }
+    const std::wstring& logFileName() const { return m_logFileName; }
+    void setLogFileName(const std::wstring& value) { m_logFileName = value; }
+    ELoggingModeType loggingMode() const { return m_loggingMode; }
+    void setLoggingMode(ELoggingModeType value) { m_loggingMode = value; }
+    const std::wstring& loggingOutputDirectory() const { return m_loggingOutputDirectory; }
+    void setLoggingOutputDirectory(const std::wstring& value) { m_loggingOutputDirectory = value; }
+    EMemoryManagementModeFlags memoryManagementMode() const { return m_memoryManagementMode; }
+    void setMemoryManagementMode(EMemoryManagementModeFlags value) { m_memoryManagementMode = value; }
+
+private:
+    ELogEventLevelType m_logEventLevel{};
+    ELogFileEncodingType m_logFileEncoding{};
+    std::wstring m_logFileName;
+    ELoggingModeType m_loggingMode{};
+    std::wstring m_loggingOutputDirectory;
+    EMemoryManagementModeFlags m_memoryManagementMode = EMemoryManagementModeFlags::Unknown;
+};
+
+// Keys: "tesselation_2d_sag_value", "tesselation_3d_sag_value",
+// "translate_reference_geometry_mode", "visu_brep_tesselation_mode", "visu_text_data_mode",
+// "visu_text_stroking_mode".
+class HRM_API OptionsGraphical final
+    : public FormatOptionsBase<OptionsGraphical, EOperationType::Options, EFormatType::Graphical>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    double tessellation2dSagValue() const { return m_tessellation2dSagValue; }
+    void setTessellation2dSagValue(double value) { m_tessellation2dSagValue = value; }
+    double tessellation3dSagValue() const { return m_tessellation3dSagValue; }
+    void setTessellation3dSagValue(double value) { m_tessellation3dSagValue = value; }
+    ETranslateReferenceGeometryMode translateReferenceGeometryMode() const { return m_translateReferenceGeometryMode; }
+    void setTranslateReferenceGeometryMode(ETranslateReferenceGeometryMode value) { m_translateReferenceGeometryMode = value; }
+    EVisuBRepTessellationModeType visuBRepTessellationMode() const { return m_visuBRepTessellationMode; }
+    void setVisuBRepTessellationMode(EVisuBRepTessellationModeType value) { m_visuBRepTessellationMode = value; }
+    EVisuTextDataMode visuTextDataMode() const { return m_visuTextDataMode; }
+    void setVisuTextDataMode(EVisuTextDataMode value) { m_visuTextDataMode = value; }
+    EVisuTextStrokingMode visuTextStrokingMode() const { return m_visuTextStrokingMode; }
+    void setVisuTextStrokingMode(EVisuTextStrokingMode value) { m_visuTextStrokingMode = value; }
+
+private:
+    double m_tessellation2dSagValue = 0.0;
+    double m_tessellation3dSagValue = 0.0;
+    ETranslateReferenceGeometryMode m_translateReferenceGeometryMode{};
+    EVisuBRepTessellationModeType m_visuBRepTessellationMode{};
+    EVisuTextDataMode m_visuTextDataMode = EVisuTextDataMode::AsString;
+    EVisuTextStrokingMode m_visuTextStrokingMode{};
+};
+
+// Keys: "feature_tolerance_processing_mode", "misc_data_processing_mode".
+class HRM_API OptionsMechanical final
+    : public FormatOptionsBase<OptionsMechanical, EOperationType::Options, EFormatType::Mechanical>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EFeatureToleranceProcessingModeType featureToleranceProcessingMode() const { return m_featureToleranceProcessingMode; }
+    void setFeatureToleranceProcessingMode(EFeatureToleranceProcessingModeType value) { m_featureToleranceProcessingMode = value; }
+    EMiscDataProcessingModeType miscDataProcessingMode() const { return m_miscDataProcessingMode; }
+    void setMiscDataProcessingMode(EMiscDataProcessingModeType value) { m_miscDataProcessingMode = value; }
+
+private:
+    EFeatureToleranceProcessingModeType m_featureToleranceProcessingMode{};
+    EMiscDataProcessingModeType m_miscDataProcessingMode{};
+};
+
+// Keys: "acis_spline_resurfacing_mode", "acis_spline_resurfacing_tolerance",
+// "attribute_processing_mode", "acis_heal_type", "length_unit_type", "preserve_mfg_mode",
+// "preserve_model_associativity_mode", "preserve_pmi_mode", "topological_entity_inspector_mode".
+class HRM_API OptionsModeler final : public FormatOptionsBase<OptionsModeler, EOperationType::Options, EFormatType::Modeler>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EAcisSplineResurfacingModeType splineResurfacingMode() const { return m_splineResurfacingMode; }
+    void setSplineResurfacingMode(EAcisSplineResurfacingModeType value) { m_splineResurfacingMode = value; }
+    double splineResurfacingTolerance() const { return m_splineResurfacingTolerance; }
+    void setSplineResurfacingTolerance(double value) { m_splineResurfacingTolerance = value; }
+    EAttributeProcessingModeType attributeProcessingMode() const { return m_attributeProcessingMode; }
+    void setAttributeProcessingMode(EAttributeProcessingModeType value) { m_attributeProcessingMode = value; }
+    EAcisHealType healType() const { return m_healType; }
+    void setHealType(EAcisHealType value) { m_healType = value; }
+    ELengthUnitType lengthUnit() const { return m_lengthUnit; }
+    void setLengthUnit(ELengthUnitType value) { m_lengthUnit = value; }
+    EPreserveMfgModeType preserveMfgMode() const { return m_preserveMfgMode; }
+    void setPreserveMfgMode(EPreserveMfgModeType value) { m_preserveMfgMode = value; }
+    EPreserveModelAssociativityModeType preserveModelAssociativityMode() const { return m_preserveModelAssociativityMode; }
+    void setPreserveModelAssociativityMode(EPreserveModelAssociativityModeType value) { m_preserveModelAssociativityMode = value; }
+    EPreservePMIModeType preservePMIMode() const { return m_preservePMIMode; }
+    void setPreservePMIMode(EPreservePMIModeType value) { m_preservePMIMode = value; }
+    ETopologicalEntityInspectorModeType topologicalEntityInspectorMode() const { return m_topologicalEntityInspectorMode; }
+    void setTopologicalEntityInspectorMode(ETopologicalEntityInspectorModeType value) { m_topologicalEntityInspectorMode = value; }
+
+private:
+    EAcisSplineResurfacingModeType m_splineResurfacingMode{};
+    double m_splineResurfacingTolerance = 0.0;
+    EAttributeProcessingModeType m_attributeProcessingMode{};
+    EAcisHealType m_healType{};
+    ELengthUnitType m_lengthUnit{};
+    EPreserveMfgModeType m_preserveMfgMode{};
+    EPreserveModelAssociativityModeType m_preserveModelAssociativityMode{};
+    EPreservePMIModeType m_preservePMIMode{};
+    ETopologicalEntityInspectorModeType m_topologicalEntityInspectorMode{};
+};
+
+namespace imp {
+
+// Switches and sets shared by several import formats. Their keys follow a class's own keys,
+// in this order: "import_geometry", "import_visualization", "import_root_visualization",
+// "import_preview_graphics", "pname_modes".
+
+class GeometrySwitch
+{
+public:
+    bool importGeometry() const { return m_importGeometry; }
+    void setImportGeometry(bool value) { m_importGeometry = value; }
+
+protected:
+    bool m_importGeometry = true;
+};
+
+class VisualizationSwitches
+{
+public:
+    bool importVisualization() const { return m_importVisualization; }
+    void setImportVisualization(bool value) { m_importVisualization = value; }
+    bool importRootVisualization() const { return m_importRootVisualization; }
+    void setImportRootVisualization(bool value) { m_importRootVisualization = value; }
+
+protected:
+    bool m_importVisualization = true;
+    bool m_importRootVisualization = true;
+};
+
+class PreviewGraphicsSwitch
+{
+public:
+    bool importPreviewGraphics() const { return m_importPreviewGraphics; }
+    void setImportPreviewGraphics(bool value) { m_importPreviewGraphics = value; }
+
+protected:
+    bool m_importPreviewGraphics = false;
+};
+
+// "pname_modes": an array of words, in ascending order of value.
+class PersistentNameModes
+{
+public:
+    const std::set<EPersistentNameProcessingModeType>& persistentNameModes() const { return m_persistentNameModes; }
+    void setPersistentNameModes(const std::set<EPersistentNameProcessingModeType>& modes) { m_persistentNameModes = modes; }
+    void addPersistentNameMode(EPersistentNameProcessingModeType mode) { m_persistentNameModes.insert(mode); }
+
+protected:
+    std::set<EPersistentNameProcessingModeType> m_persistentNameModes;
+};
+
+// Keys: "visu_pmi_mode".
+class HRM_API Options3DXML final : public FormatOptionsBase<Options3DXML, EOperationType::Import, EFormatType::XML3D>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+
+private:
+    EVisuPMIProcessingMode m_visuPMIMode{};
+};
+
+// Keys: "import_entities", "hidden_entities_mode", "layer_filter".
+class HRM_API OptionsCatiaV4 final : public FormatOptionsBase<OptionsCatiaV4, EOperationType::Import, EFormatType::CatiaV4>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EImportEntities importEntities() const { return m_importEntities; }
+    void setImportEntities(EImportEntities value) { m_importEntities = value; }
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+    const std::wstring& layerFilter() const { return m_layerFilter; }
+    void setLayerFilter(const std::wstring& value) { m_layerFilter = value; }
+
+private:
+    EImportEntities m_importEntities{};
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+    std::wstring m_layerFilter;
+};
+
+// Keys: "assembly_path_pref", "in_work_object_mode", "name_processing_mode",
+// "assembly_unfolded_view_mode", "mfg_processing_mode", "hidden_entities_mode",
+// "suppressed_entities_mode", "visu_pmi_mode", "mfg_data_mode", "doc_delay_loading_mode",
+// "import_visualization", "import_root_visualization", "import_preview_graphics", "pname_modes".
+class HRM_API OptionsCatiaV5 final : public FormatOptionsBase<OptionsCatiaV5, EOperationType::Import, EFormatType::CatiaV5>,
+                                     public VisualizationSwitches,
+                                     public PreviewGraphicsSwitch,
+                                     public PersistentNameModes
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EAssemblyPathPrefType assemblyPathPref() const { return m_assemblyPathPref; }
+    void setAssemblyPathPref(EAssemblyPathPrefType value) { m_assemblyPathPref = value; }
+    EProcessInWorkObjectModeType inWorkObjectMode() const { return m_inWorkObjectMode; }
+    void setInWorkObjectMode(EProcessInWorkObjectModeType value) { m_inWorkObjectMode = value; }
+    ENameProcessingModeType nameProcessingMode() const { return m_nameProcessingMode; }
+    void setNameProcessingMode(ENameProcessingModeType value) { m_nameProcessingMode = value; }
+    EAssemblyUnfoldedViewMode assemblyUnfoldedViewMode() const { return m_assemblyUnfoldedViewMode; }
+    void setAssemblyUnfoldedViewMode(EAssemblyUnfoldedViewMode value) { m_assemblyUnfoldedViewMode = value; }
+    EImportMfgProcessingModeType mfgProcessingMode() const { return m_mfgProcessingMode; }
+    void setMfgProcessingMode(EImportMfgProcessingModeType value) { m_mfgProcessingMode = value; }
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+    ETranslateSuppressedEntitiesModeType suppressedEntitiesMode() const { return m_suppressedEntitiesMode; }
+    void setSuppressedEntitiesMode(ETranslateSuppressedEntitiesModeType value) { m_suppressedEntitiesMode = value; }
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+    EProcessMfgDataModeType mfgDataMode() const { return m_mfgDataMode; }
+    void setMfgDataMode(EProcessMfgDataModeType value) { m_mfgDataMode = value; }
+    EDocumentDelayLoadingMode docDelayLoadingMode() const { return m_docDelayLoadingMode; }
+    void setDocDelayLoadingMode(EDocumentDelayLoadingMode value) { m_docDelayLoadingMode = value; }
+
+private:
+    EAssemblyPathPrefType m_assemblyPathPref{};
+    EProcessInWorkObjectModeType m_inWorkObjectMode{};
+    ENameProcessingModeType m_nameProcessingMode{};
+    EAssemblyUnfoldedViewMode m_assemblyUnfoldedViewMode{};
+    EImportMfgProcessingModeType m_mfgProcessingMode{};
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+    ETranslateSuppressedEntitiesModeType m_suppressedEntitiesMode{};
+    EVisuPMIProcessingMode m_visuPMIMode{};
+    EProcessMfgDataModeType m_mfgDataMode{};
+    EDocumentDelayLoadingMode m_docDelayLoadingMode{};
+};
+
+// Keys: "hidden_entities_mode", "visu_pmi_mode".
+class HRM_API OptionsCatiaV5Drawing final
+    : public FormatOptionsBase<OptionsCatiaV5Drawing, EOperationType::Import, EFormatType::CatiaV5Drawing>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+
+private:
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+    EVisuPMIProcessingMode m_visuPMIMode{};
+};
+
+// Keys: "search_paths", "configuration_name", "hidden_entities_mode", "suppressed_entities_mode",
+// "visu_pmi_mode", "driving_dimensions_type", "construction_geom_mode", "reference_geom_mode",
+// "import_visualization", "import_root_visualization", "import_preview_graphics", "pname_modes".
+class HRM_API OptionsCreo final : public FormatOptionsBase<OptionsCreo, EOperationType::Import, EFormatType::Creo>,
+                                  public VisualizationSwitches,
+                                  public PreviewGraphicsSwitch,
+                                  public PersistentNameModes
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    const std::wstring& alternateSearchPaths() const { return m_alternateSearchPaths; }
+    void setAlternateSearchPaths(const std::wstring& value) { m_alternateSearchPaths = value; }
+    const std::wstring& configurationName() const { return m_configurationName; }
+    void setConfigurationName(const std::wstring& value) { m_configurationName = value; }
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+    ETranslateSuppressedEntitiesModeType suppressedEntitiesMode() const { return m_suppressedEntitiesMode; }
+    void setSuppressedEntitiesMode(ETranslateSuppressedEntitiesModeType value) { m_suppressedEntitiesMode = value; }
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+    ETranslateDrivingDimensionsModeType drivingDimensionsMode() const { return m_drivingDimensionsMode; }
+    void setDrivingDimensionsMode(ETranslateDrivingDimensionsModeType value) { m_drivingDimensionsMode = value; }
+    ETranslateConstructionGeometriesModeType constructionGeometryMode() const { return m_constructionGeometryMode; }
+    void setConstructionGeometryMode(ETranslateConstructionGeometriesModeType value) { m_constructionGeometryMode = value; }
+    ETranslateReferenceGeometryMode referenceGeometryMode() const { return m_referenceGeometryMode; }
+    void setReferenceGeometryMode(ETranslateReferenceGeometryMode value) { m_referenceGeometryMode = value; }
+
+private:
+    std::wstring m_alternateSearchPaths;
+    std::wstring m_configurationName;
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+    ETranslateSuppressedEntitiesModeType m_suppressedEntitiesMode{};
+    EVisuPMIProcessingMode m_visuPMIMode{};
+    ETranslateDrivingDimensionsModeType m_drivingDimensionsMode{};
+    ETranslateConstructionGeometriesModeType m_constructionGeometryMode{};
+    ETranslateReferenceGeometryMode m_referenceGeometryMode{};
+};
+
+// Keys: "import_entities", "hidden_entities_mode", "copious_data_mode", "trim_curve_import_pref_mode".
+class HRM_API OptionsIGES final : public FormatOptionsBase<OptionsIGES, EOperationType::Import, EFormatType::IGES>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EImportEntities importEntities() const { return m_importEntities; }
+    void setImportEntities(EImportEntities value) { m_importEntities = value; }
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+    ECopiousDataModeType copiousDataMode() const { return m_copiousDataMode; }
+    void setCopiousDataMode(ECopiousDataModeType value) { m_copiousDataMode = value; }
+    ETrimCurveImportPreferenceModeType trimCurveImportPreference() const { return m_trimCurveImportPreference; }
+    void setTrimCurveImportPreference(ETrimCurveImportPreferenceModeType value) { m_trimCurveImportPreference = value; }
+
+private:
+    EImportEntities m_importEntities{};
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+    ECopiousDataModeType m_copiousDataMode{};
+    ETrimCurveImportPreferenceModeType m_trimCurveImportPreference{};
+};
+
+// Keys: "search_paths", "assembly_path_pref", "hidden_entities_mode", "suppressed_entities_mode",
+// "active_state_mode", "import_visualization", "import_root_visualization",
+// "import_preview_graphics", "pname_modes".
+class HRM_API OptionsInventor final : public FormatOptionsBase<OptionsInventor, EOperationType::Import, EFormatType::Inventor>,
+                                      public VisualizationSwitches,
+                                      public PreviewGraphicsSwitch,
+                                      public PersistentNameModes
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    const std::wstring& searchPaths() const { return m_searchPaths; }
+    void setSearchPaths(const std::wstring& value) { m_searchPaths = value; }
+    EAssemblyPathPrefType assemblyPathPref() const { return m_assemblyPathPref; }
+    void setAssemblyPathPref(EAssemblyPathPrefType value) { m_assemblyPathPref = value; }
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+    ETranslateSuppressedEntitiesModeType suppressedEntitiesMode() const { return m_suppressedEntitiesMode; }
+    void setSuppressedEntitiesMode(ETranslateSuppressedEntitiesModeType value) { m_suppressedEntitiesMode = value; }
+    EActiveStateProcessingModeType activeStateMode() const { return m_activeStateMode; }
+    void setActiveStateMode(EActiveStateProcessingModeType value) { m_activeStateMode = value; }
+
+private:
+    std::wstring m_searchPaths;
+    EAssemblyPathPrefType m_assemblyPathPref{};
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+    ETranslateSuppressedEntitiesModeType m_suppressedEntitiesMode{};
+    EActiveStateProcessingModeType m_activeStateMode{};
+};
+
+// Keys: "user_prop_mode", "import_visu_lod", "import_geometry", "import_visualization",
+// "import_root_visualization".
+class HRM_API OptionsJT final : public FormatOptionsBase<OptionsJT, EOperationType::Import, EFormatType::JT>,
+                                public GeometrySwitch,
+                                public VisualizationSwitches
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EUserPropertiesModeType userPropertiesMode() const { return m_userPropertiesMode; }
+    void setUserPropertiesMode(EUserPropertiesModeType value) { m_userPropertiesMode = value; }
+    // The level of detail whose visualization is imported.
+    const std::wstring& importVisuLOD() const { return m_importVisuLOD; }
+    void setImportVisuLOD(const std::wstring& value) { m_importVisuLOD = value; }
+
+private:
+    EUserPropertiesModeType m_userPropertiesMode{};
+    std::wstring m_importVisuLOD;
+};
+
+// Keys: "search_paths", "assembly_path_pref", "configuration_name", "hidden_entities_mode",
+// "suppressed_entities_mode", "translate_free_curves_mode", "translate_free_points_mode",
+// "visu_pmi_mode", "import_geometry", "import_visualization", "import_root_visualization",
+// "pname_modes".
+// Both free-curves and free-points keys carry the free-curves mode, in both directions: the
+// free-points mode is kept on this object only and never travels.
+class HRM_API OptionsNX final : public FormatOptionsBase<OptionsNX, EOperationType::Import, EFormatType::NX>,
+                                public GeometrySwitch,
+                                public VisualizationSwitches,
+                                public PersistentNameModes
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    const std::wstring& searchPaths() const { return m_searchPaths; }
+    void setSearchPaths(const std::wstring& value) { m_searchPaths = value; }
+    EAssemblyPathPrefType assemblyPathPref() const { return m_assemblyPathPref; }
+    void setAssemblyPathPref(EAssemblyPathPrefType value) { m_assemblyPathPref = value; }
+    const std::wstring& configurationName() const { return m_configurationName; }
+    void setConfigurationName(const std::wstring& value) { m_configurationName = value; }
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+    ETranslateSuppressedEntitiesModeType suppressedEntitiesMode() const { return m_suppressedEntitiesMode; }
+    void setSuppressedEntitiesMode(ETranslateSuppressedEntitiesModeType value) { m_suppressedEntitiesMode = value; }
+    ETranslateFreeCurvesModeType freeCurvesMode() const { return m_freeCurvesMode; }
+    void setFreeCurvesMode(ETranslateFreeCurvesModeType value) { m_freeCurvesMode = value; }
+    ETranslateFreePointsModeType freePointsMode() const { return m_freePointsMode; }
+    void setFreePointsMode(ETranslateFreePointsModeType value) { m_freePointsMode = value; }
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+
+private:
+    std::wstring m_searchPaths;
+    EAssemblyPathPrefType m_assemblyPathPref{};
+    std::wstring m_configurationName;
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+    ETranslateSuppressedEntitiesModeType m_suppressedEntitiesMode{};
+    ETranslateFreeCurvesModeType m_freeCurvesMode{};
+    ETranslateFreePointsModeType m_freePointsMode{};
+    EVisuPMIProcessingMode m_visuPMIMode{};
+};
+
+// Keys: "hidden_entities_mode".
+class HRM_API OptionsParasolid final
+    : public FormatOptionsBase<OptionsParasolid, EOperationType::Import, EFormatType::Parasolid>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+
+private:
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+};
+
+// Keys: "search_paths", "assembly_path_pref", "hidden_entities_mode", "import_visualization",
+// "import_root_visualization", "import_preview_graphics", "pname_modes".
+class HRM_API OptionsSolidEdge final : public FormatOptionsBase<OptionsSolidEdge, EOperationType::Import, EFormatType::SolidEdge>,
+                                       public VisualizationSwitches,
+                                       public PreviewGraphicsSwitch,
+                                       public PersistentNameModes
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    const std::wstring& assemblySearchPaths() const { return m_assemblySearchPaths; }
+    void setAssemblySearchPaths(const std::wstring& value) { m_assemblySearchPaths = value; }
+    EAssemblyPathPrefType assemblyPathPref() const { return m_assemblyPathPref; }
+    void setAssemblyPathPref(EAssemblyPathPrefType value) { m_assemblyPathPref = value; }
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+
+private:
+    std::wstring m_assemblySearchPaths;
+    EAssemblyPathPrefType m_assemblyPathPref{};
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+};
+
+// Keys: "search_paths", "assembly_path_pref", "configuration_name", "hidden_entities_mode",
+// "suppressed_entities_mode", "visu_pmi_mode", "import_visualization",
+// "import_root_visualization", "import_preview_graphics", "pname_modes".
+class HRM_API OptionsSolidWorks final
+    : public FormatOptionsBase<OptionsSolidWorks, EOperationType::Import, EFormatType::SolidWorks>,
+      public VisualizationSwitches,
+      public PreviewGraphicsSwitch,
+      public PersistentNameModes
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    const std::wstring& searchPaths() const { return m_searchPaths; }
+    void setSearchPaths(const std::wstring& value) { m_searchPaths = value; }
+    EAssemblyPathPrefType assemblyPathPref() const { return m_assemblyPathPref; }
+    void setAssemblyPathPref(EAssemblyPathPrefType value) { m_assemblyPathPref = value; }
+    const std::wstring& configurationName() const { return m_configurationName; }
+    void setConfigurationName(const std::wstring& value) { m_configurationName = value; }
+    ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
+    void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
+    ETranslateSuppressedEntitiesModeType suppressedEntitiesMode() const { return m_suppressedEntitiesMode; }
+    void setSuppressedEntitiesMode(ETranslateSuppressedEntitiesModeType value) { m_suppressedEntitiesMode = value; }
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+
+private:
+    std::wstring m_searchPaths;
+    EAssemblyPathPrefType m_assemblyPathPref{};
+    std::wstring m_configurationName;
+    ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
+    ETranslateSuppressedEntitiesModeType m_suppressedEntitiesMode{};
+    EVisuPMIProcessingMode m_visuPMIMode{};
+};
+
+// No keys of its own.
+class HRM_API OptionsSolidWorksDrawing final
+    : public FormatOptionsBase<OptionsSolidWorksDrawing, EOperationType::Import, EFormatType::SolidWorksDrawing>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+};
+
+// Keys: "visu_pmi_mode", "import_geometry", "import_visualization", "import_root_visualization".
+class HRM_API OptionsSTEP final : public FormatOptionsBase<OptionsSTEP, EOperationType::Import, EFormatType::STEP>,
+                                  public GeometrySwitch,
+                                  public VisualizationSwitches
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+
+private:
+    EVisuPMIProcessingMode m_visuPMIMode{};
+};
+
+// Keys: "visu_pmi_mode", "import_geometry", "import_visualization", "import_root_visualization".
+class HRM_API OptionsXCGM final : public FormatOptionsBase<OptionsXCGM, EOperationType::Import, EFormatType::XCGM>,
+                                  public GeometrySwitch,
+                                  public VisualizationSwitches
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+
+private:
+    EVisuPMIProcessingMode m_visuPMIMode{};
+};
+
+} // namespace imp
+} // namespace hrm

@@ -1,0 +1,184 @@
+#pragma once
+
+// The format options of the export formats (hrm::exp::Options...). Each class lists its JSON
+// keys in the order written and read, after the head "operation_type", "format_type".
+
+#include <hrm_api/hrm_api_command_options.h>
+#include <hrm_api/hrm_api_enums.h>
+#include <hrm_api/hrm_api_enums_export.h>
+#include <hrm_api/hrm_api_enums_options.h>
+#include <hrm_api/hrm_api_exchange_common.h>
+#include <hrm_api/hrm_api_export.h>
+
+#include <string>
+
+namespace hrm::exp {
+
+// Keys: "default_color_mode", "graphical_pmi_container_mode".
+class HRM_API Options3DXML final : public FormatOptionsBase<Options3DXML, EOperationType::Export, EFormatType::XML3D>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EDefaultColorMode defaultColorMode() const { return m_defaultColorMode; }
+    void setDefaultColorMode(EDefaultColorMode value) { m_defaultColorMode = value; }
+    EGraphicalPMIContainerMode graphicalPMIContainerMode() const { return m_graphicalPMIContainerMode; }
+    void setGraphicalPMIContainerMode(EGraphicalPMIContainerMode value) { m_graphicalPMIContainerMode = value; }
+
+private:
+    EDefaultColorMode m_defaultColorMode{};
+    EGraphicalPMIContainerMode m_graphicalPMIContainerMode{};
+};
+
+// Keys: "units".
+class HRM_API OptionsAcis final : public FormatOptionsBase<OptionsAcis, EOperationType::Export, EFormatType::ACIS>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    ELengthUnitType units() const { return m_units; }
+    void setUnits(ELengthUnitType value) { m_units = value; }
+
+private:
+    ELengthUnitType m_units{};
+};
+
+// Keys: "author_name", "model_name", "version", "edge_curve_mode".
+class HRM_API OptionsCatiaV4 final : public FormatOptionsBase<OptionsCatiaV4, EOperationType::Export, EFormatType::CatiaV4>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    const std::wstring& authorName() const { return m_authorName; }
+    void setAuthorName(const std::wstring& value) { m_authorName = value; }
+    const std::wstring& modelName() const { return m_modelName; }
+    void setModelName(const std::wstring& value) { m_modelName = value; }
+    EExportVersionCatiaV4 version() const { return m_version; }
+    void setVersion(EExportVersionCatiaV4 value) { m_version = value; }
+    EEdgeCurveMode edgeCurveMode() const { return m_edgeCurveMode; }
+    void setEdgeCurveMode(EEdgeCurveMode value) { m_edgeCurveMode = value; }
+
+private:
+    std::wstring m_authorName;
+    std::wstring m_modelName;
+    EExportVersionCatiaV4 m_version{};
+    EEdgeCurveMode m_edgeCurveMode{};
+};
+
+// Keys: "default_color_mode", "cgr_compatibility_mode".
+class HRM_API OptionsCatiaV5 final : public FormatOptionsBase<OptionsCatiaV5, EOperationType::Export, EFormatType::CatiaV5>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EDefaultColorMode defaultColorMode() const { return m_defaultColorMode; }
+    void setDefaultColorMode(EDefaultColorMode value) { m_defaultColorMode = value; }
+    EExportCgrCompatibilityMode cgrCompatibilityMode() const { return m_cgrCompatibilityMode; }
+    void setCgrCompatibilityMode(EExportCgrCompatibilityMode value) { m_cgrCompatibilityMode = value; }
+
+private:
+    EDefaultColorMode m_defaultColorMode{};
+    EExportCgrCompatibilityMode m_cgrCompatibilityMode{};
+};
+
+// Keys: "units".
+class HRM_API OptionsIGES final : public FormatOptionsBase<OptionsIGES, EOperationType::Export, EFormatType::IGES>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    ELengthUnitType units() const { return m_units; }
+    void setUnits(ELengthUnitType value) { m_units = value; }
+
+private:
+    ELengthUnitType m_units{};
+};
+
+// No keys of its own.
+class HRM_API OptionsParasolid final
+    : public FormatOptionsBase<OptionsParasolid, EOperationType::Export, EFormatType::Parasolid>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+};
+
+// Keys: "units", "version", "tolerance", "layer_name_mode".
+class HRM_API OptionsSTEP final : public FormatOptionsBase<OptionsSTEP, EOperationType::Export, EFormatType::STEP>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    ELengthUnitType units() const { return m_units; }
+    void setUnits(ELengthUnitType value) { m_units = value; }
+    // The application protocol.
+    EExportVersionStep version() const { return m_version; }
+    void setVersion(EExportVersionStep value) { m_version = value; }
+    double fileTolerance() const { return m_fileTolerance; }
+    void setFileTolerance(double value) { m_fileTolerance = value; }
+    ELayerNameProcessingModeType layerNameMode() const { return m_layerNameMode; }
+    void setLayerNameMode(ELayerNameProcessingModeType value) { m_layerNameMode = value; }
+
+private:
+    ELengthUnitType m_units{};
+    EExportVersionStep m_version{};
+    double m_fileTolerance = 0.0;
+    ELayerNameProcessingModeType m_layerNameMode{};
+};
+
+// Keys: "default_color_mode", "graphical_pmi_container_mode".
+class HRM_API OptionsXCGM final : public FormatOptionsBase<OptionsXCGM, EOperationType::Export, EFormatType::XCGM>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EDefaultColorMode defaultColorMode() const { return m_defaultColorMode; }
+    void setDefaultColorMode(EDefaultColorMode value) { m_defaultColorMode = value; }
+    EGraphicalPMIContainerMode graphicalPMIContainerMode() const { return m_graphicalPMIContainerMode; }
+    void setGraphicalPMIContainerMode(EGraphicalPMIContainerMode value) { m_graphicalPMIContainerMode = value; }
+
+private:
+    EDefaultColorMode m_defaultColorMode{};
+    EGraphicalPMIContainerMode m_graphicalPMIContainerMode{};
+};
+
+// Keys: "save_mode".
+class HRM_API OptionsSTL final : public FormatOptionsBase<OptionsSTL, EOperationType::Export, EFormatType::STL>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    EExportSaveMode saveMode() const { return m_saveMode; }
+    void setSaveMode(EExportSaveMode value) { m_saveMode = value; }
+
+private:
+    EExportSaveMode m_saveMode{};
+};
+
+// Keys: "title", "author_name", "units", "visu_pmi_mode", "background_color".
+class HRM_API OptionsPDF final : public FormatOptionsBase<OptionsPDF, EOperationType::Export, EFormatType::PDF3D>
+{
+public:
+    static const OptionsKeyTable& keyTable();
+
+    // The document's title and author, as its properties show them.
+    const std::wstring& title() const { return m_title; }
+    void setTitle(const std::wstring& value) { m_title = value; }
+    const std::wstring& authorName() const { return m_authorName; }
+    void setAuthorName(const std::wstring& value) { m_authorName = value; }
+    ELengthUnitType units() const { return m_units; }
+    void setUnits(ELengthUnitType value) { m_units = value; }
+    EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
+    void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
+    // The colour behind the 3D view.
+    const ExcColor& backgroundColor() const { return m_backgroundColor; }
+    void setBackgroundColor(const ExcColor& value) { m_backgroundColor = value; }
+
+private:
+    std::wstring m_title;
+    std::wstring m_authorName;
+    ELengthUnitType m_units{};
+    EVisuPMIProcessingMode m_visuPMIMode{};
+    ExcColor m_backgroundColor;
+};
+
+} // namespace hrm::exp

@@ -1,0 +1,287 @@
+#include <hrm_api/hrm_api_compression.h>
+
+#include <logging/ax_herm_logger.h>
+
+#define ZLIB_CONST
+#include <zlib.h>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <stdexcept>
+#include <type_traits>
+
+namespace hrm {
+namespace {
+
+// zlib counts its input and output in 32 bits; larger buffers go through in pieces.
+uInt zlibCount(size_t count)
+{
+    return static_cast<uInt>(std::min<size_t>(count, std::numeric_limits<uInt>::max()));
+}
+
+// The input not yet handed to zlib.
+struct Input
+{
+    const char* data;
+    size_t remaining;
+
+    // Hands zlib the next piece once it has used up the previous one.
+    void feed(z_stream& stream)
+    {
+        if (stream.avail_in != 0 || remaining == 0)
+            return;
+        const uInt piece = zlibCount(remaining);
+        stream.next_in = reinterpret_cast<const Bytef*>(data);
+        stream.avail_in = piece;
+        data += piece;
+        remaining -= piece;
+    }
+};
+
+// Points zlib's output at up to `chunk` bytes of `out` after `total`, staying within the
+// vector's capacity while it has any left; returns the room given.
+uInt giveRoom(z_stream& stream, std::vector<char>& out, size_t total, size_t chunk)
+{
+    const size_t room = out.capacity() > total ? std::min(chunk, out.capacity() - total) : chunk;
+    out.resize(total + room);
+    stream.next_out = reinterpret_cast<Bytef*>(out.data() + total);
+    stream.avail_out = zlibCount(room);
+    return stream.avail_out;
+}
+
+class Deflater
+{
+public:
+    explicit Deflater(int level)
+    {
+        // Window bits 15 + 16: a 32 KiB window with the gzip wrapper.
+        if (deflateInit2(&m_stream, level, Z_DEFLATED, 15 + 16, 8, Z_DEFAULT_STRATEGY) != Z_OK)
+            throw std::runtime_error("deflate init failed");
+    }
+    ~Deflater() { deflateEnd(&m_stream); }
+    Deflater(const Deflater&) = delete;
+    Deflater& operator=(const Deflater&) = delete;
+
+    void run(std::vector<char>& out, const char* data, size_t size)
+    {
+        const size_t chunk = size / 2 + 1024;
+        Input input{data, size};
+        size_t total = 0;
+        out.clear();
+        for (;;) {
+            const uInt room = giveRoom(m_stream, out, total, chunk);
+            input.feed(m_stream);
+            const bool last = input.remaining == 0;
+            deflate(&m_stream, last ? Z_FINISH : Z_NO_FLUSH);
+            total += room - m_stream.avail_out;
+            // Finishing stops short of the room only once the stream is complete.
+            if (last && m_stream.avail_out != 0)
+                break;
+        }
+        out.resize(total);
+    }
+
+private:
+    z_stream m_stream{};
+};
+
+class Inflater
+{
+public:
+    Inflater()
+    {
+        // Window bits 15 + 32: a 32 KiB window, zlib or gzip header detected.
+        if (inflateInit2(&m_stream, 15 + 32) != Z_OK)
+            throw std::runtime_error("inflate init failed");
+    }
+    ~Inflater() { inflateEnd(&m_stream); }
+    Inflater(const Inflater&) = delete;
+    Inflater& operator=(const Inflater&) = delete;
+
+    void run(std::vector<char>& out, const char* data, size_t size, size_t maxSize)
+    {
+        const size_t chunk = 2 * size;
+        Input input{data, size};
+        size_t total = 0;
+        out.clear();
+        // One spare byte: the round that completes the stream must leave room unused.
+        out.reserve(std::min(expectedSize(data, size), maxSize) + 1);
+        for (;;) {
+            const uInt room = giveRoom(m_stream, out, total, chunk);
+            input.feed(m_stream);
+            const int result = inflate(&m_stream, input.remaining == 0 ? Z_FINISH : Z_NO_FLUSH);
+            // A buffer error with room left is a stream cut short: keep what came out.
+            if (result != Z_OK && result != Z_STREAM_END && result != Z_BUF_ERROR)
+                throw std::runtime_error(m_stream.msg ? m_stream.msg : zError(result));
+            total += room - m_stream.avail_out;
+            if (total > maxSize)
+                throw std::length_error("Compressor: decompressed data exceeds the size limit");
+            if (result == Z_STREAM_END || (m_stream.avail_out != 0 && input.remaining == 0))
+                break;
+        }
+        out.resize(total);
+    }
+
+private:
+    // The size a gzip stream announces in its trailer (modulo 2^32), believed only as far as
+    // deflate can expand (at most 1032 to 1); 0 for other streams.
+    static size_t expectedSize(const char* data, size_t size)
+    {
+        if (size < 18 || static_cast<unsigned char>(data[0]) != 0x1F || static_cast<unsigned char>(data[1]) != 0x8B)
+            return 0;
+        const auto* trailer = reinterpret_cast<const unsigned char*>(data + size - 4);
+        const size_t announced = trailer[0] | trailer[1] << 8 | trailer[2] << 16 | size_t(trailer[3]) << 24;
+        return std::min(announced, size * 1032);
+    }
+
+    z_stream m_stream{};
+};
+
+constexpr char alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+constexpr uint8_t notInAlphabet = 0x80;
+
+constexpr std::array<uint8_t, 256> makeDecodeTable()
+{
+    std::array<uint8_t, 256> table{};
+    for (auto& entry : table)
+        entry = notInAlphabet;
+    for (uint8_t i = 0; i < 64; ++i)
+        table[static_cast<unsigned char>(alphabet[i])] = i;
+    return table;
+}
+
+constexpr std::array<uint8_t, 256> decodeTable = makeDecodeTable();
+
+template <typename Char>
+uint32_t sextet(Char ch)
+{
+    const auto code = static_cast<std::make_unsigned_t<Char>>(ch);
+    if constexpr (sizeof(Char) == 1)
+        return decodeTable[code];
+    else
+        return code < 256 ? decodeTable[code] : notInAlphabet;
+}
+
+template <typename Char>
+size_t encodeBase64(Char* dest, const void* src, size_t bytes)
+{
+    const auto* in = static_cast<const unsigned char*>(src);
+    Char* out = dest;
+    size_t i = 0;
+    for (; i + 3 <= bytes; i += 3, out += 4) {
+        const uint32_t group = uint32_t(in[i]) << 16 | uint32_t(in[i + 1]) << 8 | in[i + 2];
+        out[0] = static_cast<Char>(alphabet[group >> 18]);
+        out[1] = static_cast<Char>(alphabet[(group >> 12) & 0x3F]);
+        out[2] = static_cast<Char>(alphabet[(group >> 6) & 0x3F]);
+        out[3] = static_cast<Char>(alphabet[group & 0x3F]);
+    }
+    if (i < bytes) {
+        const bool two = i + 1 < bytes;
+        const uint32_t group = uint32_t(in[i]) << 16 | (two ? uint32_t(in[i + 1]) << 8 : 0);
+        out[0] = static_cast<Char>(alphabet[group >> 18]);
+        out[1] = static_cast<Char>(alphabet[(group >> 12) & 0x3F]);
+        out[2] = static_cast<Char>(two ? alphabet[(group >> 6) & 0x3F] : '=');
+        out[3] = static_cast<Char>('=');
+        out += 4;
+    }
+    return static_cast<size_t>(out - dest);
+}
+
+template <typename Char>
+std::pair<size_t, size_t> decodeBase64(void* dest, const Char* src, size_t chars)
+{
+    auto* out = static_cast<unsigned char*>(dest);
+    size_t i = 0;
+    for (; i + 4 <= chars; i += 4, out += 3) {
+        const uint32_t a = sextet(src[i]), b = sextet(src[i + 1]), c = sextet(src[i + 2]), d = sextet(src[i + 3]);
+        if ((a | b | c | d) & notInAlphabet)
+            break;
+        const uint32_t group = a << 18 | b << 12 | c << 6 | d;
+        out[0] = static_cast<unsigned char>(group >> 16);
+        out[1] = static_cast<unsigned char>(group >> 8);
+        out[2] = static_cast<unsigned char>(group);
+    }
+    // The last, unfinished group: at most three characters before the end or the stop.
+    uint32_t group = 0;
+    size_t collected = 0;
+    for (; i < chars && collected < 3; ++i, ++collected) {
+        const uint32_t value = sextet(src[i]);
+        if (value & notInAlphabet)
+            break;
+        group = group << 6 | value;
+    }
+    if (collected > 1) {
+        group <<= 6 * (4 - collected);
+        for (size_t k = 0; k + 1 < collected; ++k)
+            *out++ = static_cast<unsigned char>(group >> (16 - 8 * k));
+    }
+    return {static_cast<size_t>(out - static_cast<unsigned char*>(dest)), i};
+}
+
+} // namespace
+
+bool Compressor::isCompressed(const char* data, size_t size)
+{
+    if (data == nullptr || size < 3)
+        return false;
+    const auto first = static_cast<unsigned char>(data[0]);
+    const auto second = static_cast<unsigned char>(data[1]);
+    const bool zlib = first == 0x78 && (second == 0x01 || second == 0x5E || second == 0x9C || second == 0xDA);
+    const bool gzip = first == 0x1F && second == 0x8B;
+    return zlib || gzip;
+}
+
+void Compressor::compress(std::vector<char>& out, const char* data, size_t size, int level)
+{
+    HRM_TRACE();
+    Deflater(level).run(out, data, size);
+}
+
+void Compressor::compress(std::string& out, const char* data, size_t size, int level)
+{
+    HRM_TRACE();
+    std::vector<char> bytes;
+    Deflater(level).run(bytes, data, size);
+    out.assign(bytes.data(), bytes.size());
+}
+
+void Compressor::decompress(std::vector<char>& out, const char* data, size_t size, size_t maxSize)
+{
+    HRM_TRACE();
+    if (size == 0)
+        out.clear();
+    else
+        Inflater().run(out, data, size, maxSize);
+}
+
+void Compressor::decompress(std::string& out, const char* data, size_t size, size_t maxSize)
+{
+    HRM_TRACE();
+    std::vector<char> bytes;
+    if (size != 0)
+        Inflater().run(bytes, data, size, maxSize);
+    out.assign(bytes.data(), bytes.size());
+}
+
+size_t Base64::encodeImpl(char* dest, const void* src, size_t bytes)
+{
+    return encodeBase64(dest, src, bytes);
+}
+
+size_t Base64::encodeImpl(wchar_t* dest, const void* src, size_t bytes)
+{
+    return encodeBase64(dest, src, bytes);
+}
+
+std::pair<size_t, size_t> Base64::decodeImpl(void* dest, const char* src, size_t chars)
+{
+    return decodeBase64(dest, src, chars);
+}
+
+std::pair<size_t, size_t> Base64::decodeImpl(void* dest, const wchar_t* src, size_t chars)
+{
+    return decodeBase64(dest, src, chars);
+}
+
+} // namespace hrm

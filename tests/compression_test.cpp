@@ -1,0 +1,207 @@
+#include <hrm_api/hrm_api_compression.h>
+
+#include <gtest/gtest.h>
+
+#include <zlib.h>
+
+#include <random>
+
+namespace hrm {
+namespace {
+
+using Bytes = std::vector<char>;
+
+Bytes randomBytes(size_t size, unsigned seed)
+{
+    std::mt19937 generator(seed);
+    Bytes data(size);
+    for (char& byte : data)
+        byte = static_cast<char>(generator());
+    return data;
+}
+
+// Text-like data that compresses to roughly a third.
+Bytes wordBytes(size_t size)
+{
+    static const char* const words[] = {"block ", "face ", "edge ", "12.5 ", "-3.25 ", "{\"id\":", "true, ", "\n"};
+    std::mt19937 generator(7);
+    Bytes data;
+    while (data.size() < size) {
+        const char* word = words[generator() % 8];
+        data.insert(data.end(), word, word + std::char_traits<char>::length(word));
+    }
+    data.resize(size);
+    return data;
+}
+
+Bytes compressed(const Bytes& data, int level = -1)
+{
+    Bytes out;
+    Compressor::compress(out, data.data(), data.size(), level);
+    return out;
+}
+
+Bytes decompressed(const Bytes& data)
+{
+    Bytes out{'s', 't', 'a', 'l', 'e'};
+    Compressor::decompress(out, data.data(), data.size());
+    return out;
+}
+
+template <typename Operation>
+std::string failureOf(Operation operation)
+{
+    try {
+        operation();
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+    return "no exception";
+}
+
+std::string zlibMessage(const Bytes& data)
+{
+    return failureOf([&] { decompressed(data); });
+}
+
+TEST(Compressor, RecognisesZlibAndGzipHeaders)
+{
+    const auto is = [](std::initializer_list<unsigned char> bytes) {
+        const Bytes data(bytes.begin(), bytes.end());
+        return Compressor::isCompressed(data.data(), data.size());
+    };
+    for (const unsigned char second : {0x01, 0x5E, 0x9C, 0xDA})
+        EXPECT_TRUE(is({0x78, second, 0x00})) << int(second);
+    EXPECT_TRUE(is({0x1F, 0x8B, 0x08}));
+    EXPECT_FALSE(is({0x78, 0x9C}));
+    EXPECT_FALSE(is({0x78, 0x00, 0x00}));
+    EXPECT_FALSE(is({0x8B, 0x1F, 0x08}));
+    EXPECT_FALSE(Compressor::isCompressed(nullptr, 10));
+}
+
+TEST(Compressor, RoundTripsAtEveryKindOfLevelAndSize)
+{
+    // Random data at level 0 grows past the first output chunk (half the input + 1 KiB).
+    for (const int level : {-1, 0, 1, 9}) {
+        for (const Bytes& data : {Bytes(), randomBytes(1, 1), randomBytes(100000, 2), wordBytes(100000)}) {
+            SCOPED_TRACE(testing::Message() << "level " << level << ", size " << data.size());
+            const Bytes gzip = compressed(data, level);
+            ASSERT_GE(gzip.size(), 18u);
+            EXPECT_EQ(static_cast<unsigned char>(gzip[0]), 0x1F);
+            EXPECT_EQ(static_cast<unsigned char>(gzip[1]), 0x8B);
+            EXPECT_EQ(decompressed(gzip), data);
+
+            std::string text;
+            Compressor::compress(text, data.data(), data.size(), level);
+            EXPECT_EQ(Bytes(text.begin(), text.end()), gzip);
+            std::string back = "stale";
+            Compressor::decompress(back, text.data(), text.size());
+            EXPECT_EQ(Bytes(back.begin(), back.end()), data);
+        }
+    }
+    EXPECT_LE(compressed(Bytes()).size(), 20u);
+
+    // Empty input decompresses to nothing instead of looping for ever.
+    EXPECT_TRUE(decompressed(Bytes()).empty());
+    std::string empty = "stale";
+    Compressor::decompress(empty, nullptr, 0);
+    EXPECT_TRUE(empty.empty());
+}
+
+TEST(Compressor, InflatesForeignZlibStreamsAndLargeRatios)
+{
+    const Bytes data = wordBytes(50000);
+    Bytes zlib(compressBound(static_cast<uLong>(data.size())));
+    uLongf size = static_cast<uLongf>(zlib.size());
+    ASSERT_EQ(compress2(reinterpret_cast<Bytef*>(zlib.data()), &size, reinterpret_cast<const Bytef*>(data.data()),
+                        static_cast<uLong>(data.size()), 6),
+              Z_OK);
+    zlib.resize(size);
+    EXPECT_EQ(static_cast<unsigned char>(zlib[0]), 0x78);
+    EXPECT_EQ(decompressed(zlib), data);
+
+    // Hundreds of output chunks of twice the input size each.
+    const Bytes repetitive(5'000'000, 'a');
+    const Bytes gzip = compressed(repetitive, 9);
+    EXPECT_LT(gzip.size() * 500, repetitive.size());
+    EXPECT_EQ(decompressed(gzip), repetitive);
+
+    Bytes limited;
+    EXPECT_NO_THROW(Compressor::decompress(limited, gzip.data(), gzip.size(), repetitive.size()));
+    EXPECT_THROW(Compressor::decompress(limited, gzip.data(), gzip.size(), repetitive.size() - 1), std::length_error);
+}
+
+TEST(Compressor, TruncatedStreamsGiveAPrefixAndCorruptOnesThrow)
+{
+    const Bytes data = wordBytes(200000);
+    const Bytes gzip = compressed(data);
+    const Bytes cut(gzip.begin(), gzip.begin() + static_cast<std::ptrdiff_t>(gzip.size() / 2));
+    const Bytes prefix = decompressed(cut);
+    EXPECT_GT(prefix.size(), data.size() / 4);
+    EXPECT_LT(prefix.size(), data.size());
+    EXPECT_TRUE(std::equal(prefix.begin(), prefix.end(), data.begin()));
+    EXPECT_TRUE(decompressed(Bytes(gzip.begin(), gzip.begin() + 10)).empty());
+
+    const auto corrupted = [&](size_t at, char byte) {
+        Bytes bad = gzip;
+        bad[at] = byte;
+        return zlibMessage(bad);
+    };
+    EXPECT_EQ(corrupted(2, 7), "unknown compression method");
+    EXPECT_EQ(corrupted(10, 0x07), "invalid block type");
+    EXPECT_EQ(corrupted(gzip.size() - 8, static_cast<char>(gzip[gzip.size() - 8] ^ 1)), "incorrect data check");
+    // The trailer's size field also sizes the output in advance.
+    EXPECT_EQ(corrupted(gzip.size() - 1, '\x7F'), "incorrect length check");
+    EXPECT_EQ(zlibMessage(Bytes{'n', 'o', 't', ' ', 'z', 'l', 'i', 'b'}), "incorrect header check");
+
+    EXPECT_EQ(failureOf([&] { compressed(data, 10); }), "deflate init failed");
+}
+
+TEST(Base64, EncodesAndDecodesTheStandardAlphabet)
+{
+    for (const auto& [bytes, text] : {std::pair{"", ""}, {"M", "TQ=="}, {"Ma", "TWE="}, {"Man", "TWFu"}})
+        EXPECT_EQ(Base64::encode(std::string(bytes)), text);
+    EXPECT_EQ(Base64::encode<std::wstring>(std::string("\xFB\xFF\xBF")), L"+/+/");
+
+    const auto decode = [](const auto& text, size_t consumed) {
+        std::string out = "stale";
+        EXPECT_EQ(Base64::decode(text, out), consumed);
+        return out;
+    };
+    EXPECT_EQ(decode(std::string("TWE="), 3), "Ma");
+    EXPECT_EQ(decode(std::string("TW E="), 2), "M");
+    EXPECT_EQ(decode(std::string("TQ"), 2), "M");
+    EXPECT_EQ(decode(std::string("TWFuT"), 5), "Man");
+    EXPECT_EQ(decode(std::string("TWFu\nTWFu"), 4), "Man");
+    EXPECT_EQ(decode(std::string("TW-_"), 2), "M");
+    // A wide character whose low byte is in the alphabet is still outside it.
+    EXPECT_EQ(decode(std::wstring{L'T', L'W', wchar_t(0x141), L'u'}, 2), "M");
+
+    // Every byte value survives, through both text types; the padding is not consumed.
+    std::string all;
+    for (int i = 0; i < 256; ++i)
+        all += static_cast<char>(i);
+    EXPECT_EQ(decode(Base64::encode(all), 342), all);
+    EXPECT_EQ(decode(Base64::encode<std::wstring>(all), 342), all);
+}
+
+TEST(Base64, CarriesThirtyTwoBitValues)
+{
+    const std::vector<uint32_t> pixels{0x00000000, 0xFFFFFFFF, 0x12345678, 0x80FF7F01, 7};
+    const std::wstring text = Base64::encode<std::wstring>(pixels);
+    EXPECT_EQ(text.size(), Base64::encodedSize(20));
+    std::vector<uint32_t> back;
+    EXPECT_EQ(Base64::decode(text, back), text.size() - 1); // up to the "="
+    EXPECT_EQ(back, pixels);
+
+    // Bytes that do not fill a last value are dropped.
+    std::vector<uint32_t> partial;
+    EXPECT_EQ(Base64::decode(Base64::encode(std::string("abcdefg")), partial), 10u);
+    ASSERT_EQ(partial.size(), 1u);
+    EXPECT_EQ(Base64::encode(partial), Base64::encode(std::string("abcd")));
+    EXPECT_EQ(Base64::decode(std::string("TWE="), partial), 3u);
+    EXPECT_TRUE(partial.empty());
+}
+
+} // namespace
+} // namespace hrm
