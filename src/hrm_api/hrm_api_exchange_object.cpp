@@ -126,9 +126,7 @@ void ExchangeObjectWrapper::readObject(std::wistream& in)
 {
     HRM_TRACE();
     JsonDocument envelope;
-    JsonTextIO::read(in, envelope);
-    if (envelope.HasParseError() || !envelope.IsObject())
-        throw std::invalid_argument("Invalid json document");
+    readObjectDocument(in, envelope);
 
     const JsonObjectReader members(envelope);
     const JsonValue* name = members.find(L"exchange_object_name");
@@ -258,9 +256,7 @@ void Result::readObject(std::wistream& in)
 {
     HRM_TRACE();
     JsonDocument document;
-    JsonTextIO::read(in, document);
-    if (document.HasParseError() || !document.IsObject())
-        throw std::invalid_argument("Invalid json document");
+    readObjectDocument(in, document);
     JsonObjectReader members(document);
     const JsonValue* code = members.find(L"code");
     if (!code)
