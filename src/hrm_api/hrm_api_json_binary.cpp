@@ -233,8 +233,12 @@ private:
             for (size_t k = 0; k < block; ++k)
                 storeLittleEndian(out + 2 * (i + k), static_cast<uint16_t>(text[i + k]));
         }
-        for (; i < length && static_cast<uint32_t>(text[i]) <= 0xFFFF; ++i)
-            storeLittleEndian(out + 2 * i, static_cast<uint16_t>(text[i]));
+        for (; i < length; ++i) {
+            const auto point = static_cast<uint32_t>(text[i]);
+            if (point > 0xFFFF)
+                break;
+            storeLittleEndian(out + 2 * i, static_cast<uint16_t>(point));
+        }
         return i;
     }
 
