@@ -191,6 +191,15 @@ TEST(JsonBinaryIO, FailuresNameTheirCause)
 
     // Member names must be strings.
     expectFailure<std::invalid_argument>(head(3, 6, {0, 2}), "JsonBinaryIO: Member name is not a string");
+
+    // A failure deep inside leaves the target as it was.
+    JsonDocument target;
+    JsonTextIO::fromString(L"{\"kept\":[1]}", target);
+    const Bytes before = encoded(target);
+    const Bytes truncated = head(4, 15, {6, 1, 0, 0, 0, 4, 5, 0, 0, 0, 0, 0, 0, 0, 6, 2});
+    EXPECT_THROW(JsonBinaryIO::decode(truncated.data(), truncated.size(), target, target.GetAllocator()),
+                 std::length_error);
+    EXPECT_EQ(encoded(target), before);
 }
 
 TEST(JsonBinaryIO, ContainersEndWhereTheirLengthIsReached)
@@ -202,6 +211,7 @@ TEST(JsonBinaryIO, ContainersEndWhereTheirLengthIsReached)
         JsonDocument document;
         EXPECT_EQ(JsonBinaryIO::decode(data.data(), data.size(), document, document.GetAllocator()), consumed);
         EXPECT_EQ(document.Size(), elements);
+        EXPECT_EQ(document.Capacity(), elements); // sized exactly, not grown
     };
     decodeWithLength(10, 19, 2);
     decodeWithLength(5, 14, 1); // ends just after the first element

@@ -44,11 +44,14 @@ public:
     // Decodes one value from the start of the `size` bytes at `data` into `value`, allocating
     // its strings and containers from `allocator`; returns the number of bytes consumed.
     // A container ends at the first member or element that reaches or passes its recorded
-    // body length. Failures leave `value` partly built:
+    // body length; its storage holds exactly its members or elements. `value` is replaced
+    // only when the whole value has been read, so a failure leaves it as it was (what was
+    // allocated stays in `allocator`):
     // - std::length_error: no tag byte ("JsonBinaryIO: Failed to parse all bytes of type"), a
     //   short number or length ("... Failed to read all the number of bytes"), short string
     //   data ("... Failed to read all the bytes of string"); nothing is allocated for a length
-    //   the data does not hold;
+    //   the data does not hold; a string or container too large for RapidJSON's 32-bit sizes
+    //   ("... String too long", "... Container too large");
     // - std::invalid_argument: a tag above 10 ("JsonBinaryIO: Unknown value type"), a member
     //   name that is not a string ("JsonBinaryIO: Member name is not a string"), nesting deeper
     //   than maxNestingDepth ("JsonBinaryIO: Nesting too deep").
