@@ -221,12 +221,61 @@ TEST(Command, ReadingAndWritingAreTraced)
 
 TEST(Command, GoldenImportCommand)
 {
-    // An import command with five format options, written in ascending format type.
+    Command command;
+    command.setType(Type::Import);
+    command.setInternalInterface(Interface::Connect);
+    command.setUseMultiThreading(true);
+
+    auto options = Command::newImportOptions();
+    options->setFile(L"C:\\Models\\gearbox\\gearbox.CATProduct");
+    options->setTranslateMiscData(true);
+    options->setModelerVersion(33);
+
+    auto general = std::make_shared<OptionsGeneral>();
+    general->setLogEventLevel(ELogEventLevelType::Warning);
+    general->setLogFileEncoding(ELogFileEncodingType::Utf8);
+    general->setLogFileName(L"gearbox.log");
+    general->setLoggingMode(ELoggingModeType::Append);
+    general->setLoggingOutputDirectory(L"C:\\Temp\\hermetor");
+    general->setMemoryManagementMode(EMemoryManagementModeFlags::KeepNone);
+
+    auto modeler = std::make_shared<OptionsModeler>();
+    modeler->setSplineResurfacingMode(EAcisSplineResurfacingModeType::ErroneousSurfacesOnly);
+    modeler->setSplineResurfacingTolerance(0.001);
+    modeler->setHealType(EAcisHealType::Standard);
+    modeler->setLengthUnit(ELengthUnitType::Millimeter);
+    modeler->setPreservePMIMode(EPreservePMIModeType::DecorateAllPMI);
+
+    auto catia = std::make_shared<imp::OptionsCatiaV5>();
+    catia->setAssemblyPathPref(EAssemblyPathPrefType::RootFolderFirst);
+    catia->setNameProcessingMode(ENameProcessingModeType::LongNames);
+    catia->setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType::None);
+    catia->setVisuPMIMode(EVisuPMIProcessingMode::All);
+    catia->setDocDelayLoadingMode(EDocumentDelayLoadingMode::Part);
+    catia->setImportPreviewGraphics(true);
+    catia->addPersistentNameMode(EPersistentNameProcessingModeType::Edges);
+    catia->addPersistentNameMode(EPersistentNameProcessingModeType::Faces);
+
+    auto nx = std::make_shared<imp::OptionsNX>();
+    nx->setSearchPaths(L"C:\\Models\\nx_lib");
+    nx->setFreeCurvesMode(ETranslateFreeCurvesModeType::None);
+    nx->setImportRootVisualization(false);
+
+    auto step = std::make_shared<imp::OptionsSTEP>();
+    step->setVisuPMIMode(EVisuPMIProcessingMode::None);
+    step->setImportVisualization(false);
+
+    // Added out of order: they are written in ascending format type.
+    options->setFormatOptions(step);
+    options->setFormatOptions(nx);
+    options->setFormatOptions(catia);
+    options->setFormatOptions(modeler);
+    options->setFormatOptions(general);
+    command.setImportOptions(options);
+
     std::ifstream golden(HRM_TEST_GOLDEN_DIR "/command/import_command.json", std::ios::binary);
     ASSERT_TRUE(golden) << "missing golden file";
     const std::string expected(std::istreambuf_iterator<char>(golden), {});
-    Command command;
-    read(command, toWide(expected));
     EXPECT_EQ(toNarrow(write(command)), expected);
 }
 
