@@ -202,6 +202,7 @@ TEST(Command, WriterFailureLeavesTheStream)
 
 TEST(Command, MalformedDocuments)
 {
+    const std::wstring tooDeep = L"{\"command\": \"ping\", \"x\": " + std::wstring(1000000, L'[');
     const struct
     {
         const wchar_t* text;
@@ -212,6 +213,7 @@ TEST(Command, MalformedDocuments)
         {L"[{\"command\": \"ping\"}]", "Invalid json document"},
         {L"\"ping\"", "Invalid json document"},
         {L"{\"command\": \"ping\"} {}", "Invalid json document"},
+        {tooDeep.c_str(), "Invalid json document"},
         {L"{}", "Json document has no command type."},
         {L"{\"command\": 4}", "Json document has no command type."},
         {L"{\"command\": \"import\"}", "Import command should contain options."},

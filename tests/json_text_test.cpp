@@ -105,12 +105,45 @@ TEST(JsonTextIO, ParseErrorsAreLeftInTheDocument)
     EXPECT_EQ(write(document, false), write(parse(L"{\"k\":[1.5,\"\U0001F600\"]}"), false));
 }
 
-TEST(JsonTextIO, DeepNestingParsesWithoutRecursion)
+TEST(JsonTextIO, NestingIsBounded)
 {
-    const std::wstring deep = std::wstring(100000, L'[') + std::wstring(100000, L']');
-    JsonDocument document;
-    JsonTextIO::fromString(deep, document);
-    EXPECT_FALSE(document.HasParseError());
+    const size_t limit = JsonTextIO::maxNestingDepth;
+    // Arrays and objects in turn: [{"k":[{"k":...}]}]
+    const auto opening = [](size_t depth) {
+        std::wstring text;
+        for (size_t i = 0; i < depth; ++i)
+            text += i % 2 ? L"{\"k\":" : L"[";
+        return text;
+    };
+    const auto nested = [&](size_t depth, const std::wstring& inner = L"0") {
+        std::wstring text = opening(depth) + inner;
+        for (size_t i = depth; i-- > 0;)
+            text += i % 2 ? L"}" : L"]";
+        return text;
+    };
+
+    // The deepest text accepted goes through the (recursive) writer and back.
+    const std::wstring deepest = nested(limit);
+    EXPECT_EQ(write(parse(deepest), false), deepest);
+
+    // One level more, or a million, is a parse error at the first container too deep; the
+    // document stays null, so writing or destroying it is safe.
+    for (const size_t depth : {limit + 1, size_t(1000000)}) {
+        JsonDocument document;
+        JsonTextIO::fromString(nested(depth), document);
+        EXPECT_EQ(document.GetParseError(), rapidjson::kParseErrorValueInvalid) << depth;
+        EXPECT_EQ(document.GetErrorOffset(), opening(limit).size());
+        EXPECT_EQ(write(document, false), L"null");
+    }
+
+    // Brackets in strings, escaped quotes included, are text, not nesting; a syntax error
+    // before the bound is reported as itself.
+    const std::wstring brackets(100000, L'[');
+    EXPECT_FALSE(parse(nested(limit, L"\"\\\"" + brackets + L"\"")).HasParseError());
+    JsonDocument broken;
+    JsonTextIO::fromString(L"[1 " + nested(limit + 1), broken);
+    EXPECT_EQ(broken.GetParseError(), rapidjson::kParseErrorArrayMissCommaOrSquareBracket);
+    EXPECT_EQ(broken.GetErrorOffset(), 3u);
 }
 
 TEST(JsonTextIO, WriteToFile)

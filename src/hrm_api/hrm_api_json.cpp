@@ -35,6 +35,32 @@ void writeText(TextBuffer& buffer, const JsonValue& document, bool pretty)
         throw std::runtime_error("Cannot write object into json document");
 }
 
+// The offset of the first '[' or '{' that opens a container deeper than the bound, or npos.
+// Brackets inside strings do not count. For text that parses, the count is the real nesting
+// depth; text the count stops early is incomplete at that point, so parsing it fails.
+size_t firstTooDeep(const std::wstring& text, size_t bound)
+{
+    size_t depth = 0;
+    bool inString = false;
+    for (size_t i = 0; i < text.size() && text[i] != L'\0'; ++i) {
+        const wchar_t ch = text[i];
+        if (inString) {
+            if (ch == L'\\')
+                ++i; // the escaped character cannot end the string
+            else if (ch == L'"')
+                inString = false;
+        } else if (ch == L'"') {
+            inString = true;
+        } else if (ch == L'[' || ch == L'{') {
+            if (++depth > bound)
+                return i;
+        } else if ((ch == L']' || ch == L'}') && depth > 0) {
+            --depth;
+        }
+    }
+    return std::wstring::npos;
+}
+
 // GenericStringBuffer::GetSize() counts bytes, not characters.
 size_t lengthOf(const TextBuffer& buffer)
 {
@@ -91,7 +117,11 @@ void JsonTextIO::fromString(const std::wstring& text, JsonDocument& document)
 {
     // Iterative parsing gives the results of the default (recursive) parse without using the
     // call stack for nesting. Like a stream parse, it stops at the first NUL character.
-    document.Parse<rapidjson::kParseIterativeFlag>(text.c_str());
+    const size_t tooDeep = firstTooDeep(text, maxNestingDepth);
+    if (tooDeep == std::wstring::npos)
+        document.Parse<rapidjson::kParseIterativeFlag>(text.c_str());
+    else
+        document.Parse<rapidjson::kParseIterativeFlag>(text.substr(0, tooDeep).c_str());
 }
 
 #if defined(_WIN32)
