@@ -12,6 +12,7 @@
 #include <hrm_api/hrm_api_enums_legacy.h>
 #include <hrm_api/hrm_api_enums_options.h>
 #include <hrm_api/hrm_api_exchange_common.h>
+#include <hrm_api/hrm_api_exchange_object.h>
 #include <hrm_api/hrm_api_command_options.h>
 #include <hrm_api/hrm_api_format_options.h>
 #include <hrm_api/hrm_api_format_options_export.h>
@@ -21,3 +22,4 @@
 #include <logging/ax_herm_logger.h>
 #include <mp/mp_exception.h>
 #include <mp/mp_serializable.h>
+#include <mp/mp_shared_buffer.h>

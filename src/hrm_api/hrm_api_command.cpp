@@ -115,9 +115,7 @@ void Command::readObject(std::wistream& in)
 {
     HRM_TRACE();
     JsonDocument document;
-    JsonTextIO::read(in, document);
-    if (!document.IsObject())
-        throw std::invalid_argument("Invalid json document");
+    readObjectDocument(in, document);
     JsonObjectReader members(document);
 
     if (const JsonValue* word = members.find(L"hermetor_interface"); word && word->IsString())

@@ -146,9 +146,7 @@ void HermetorInfo::readObject(std::wistream& in)
 {
     HRM_TRACE();
     JsonDocument document;
-    JsonTextIO::read(in, document);
-    if (!document.IsObject())
-        throw std::invalid_argument("Invalid json document");
+    readObjectDocument(in, document);
     JsonObjectReader members(document);
     members.string(L"name", m_name).string(L"version", m_version);
     if (const JsonValue* word = members.find(L"hermetor_interface"); word && word->IsString())

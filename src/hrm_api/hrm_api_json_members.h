@@ -31,6 +31,7 @@
 #include <logging/ax_herm_logger.h>
 
 #include <cstdint>
+#include <stdexcept>
 #include <iterator>
 #include <memory>
 #include <set>
@@ -43,6 +44,15 @@ namespace hrm {
 inline JsonValue jsonString(const std::wstring& text, JsonAllocator& allocator)
 {
     return JsonValue(text.data(), static_cast<rapidjson::SizeType>(text.size()), allocator);
+}
+
+// Parses the whole of `in` as the document of a serialisable object: the root must be a JSON
+// object; anything else (a parse error included) throws std::invalid_argument("Invalid json document").
+inline void readObjectDocument(std::wistream& in, JsonDocument& document)
+{
+    JsonTextIO::read(in, document);
+    if (document.HasParseError() || !document.IsObject())
+        throw std::invalid_argument("Invalid json document");
 }
 
 // The wide string held by a JSON string value.

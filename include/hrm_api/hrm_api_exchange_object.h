@@ -1,0 +1,356 @@
+#pragma once
+
+// Exchange objects: the units of data handed between the host and the translator, the
+// registry that re-creates them from their type names, and the envelope one object travels in.
+
+#include <hrm_api/hrm_api_enum.h>
+#include <hrm_api/hrm_api_json.h>
+#include <mp/mp_serializable.h>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+
+namespace hrm {
+
+// An object that travels in an envelope (ExchangeObjectWrapper). Small objects travel inside
+// the envelope as JSON; binary() objects travel as binary JSON in a named shared-memory
+// buffer whose name, the object's source, is all the envelope carries.
+class HRM_API IExchangeObject : public IJsonObject
+{
+public:
+    ~IExchangeObject() override = default;
+
+    // The type name, the same string as the class's static objName().
+    virtual const std::wstring& objectName() const = 0;
+    // A new, default-constructed object of the same class (the data is not copied).
+    virtual std::shared_ptr<IExchangeObject> clone() const = 0;
+    // Whether the object travels in shared memory rather than inside its envelope.
+    virtual bool binary() const { return false; }
+    // Whether its shared-memory payload is gzip-compressed.
+    virtual bool compress() const { return false; }
+    // Whether load() has filled the object from its source. Objects read inline stay false.
+    virtual bool isLoaded() const { return m_loaded; }
+    // Fills a binary object from the shared-memory buffer named by its source. Does nothing
+    // when the object is already loaded, has no source or is not binary. The payload may be
+    // compressed or raw. Failures (a missing buffer, corrupt data) throw, and the object stays
+    // unloaded.
+    virtual void load();
+
+    void setSource(const std::wstring& source) { m_source = source; }
+    const std::wstring& source() const { return m_source; }
+
+    // A new random (version 4) UUID: 36 characters, lowercase hexadecimal in 8-4-4-4-12 groups.
+    static std::wstring generateUUID();
+
+protected:
+    IExchangeObject() = default;
+    IExchangeObject(const IExchangeObject&) = default;
+    IExchangeObject(IExchangeObject&&) = default;
+    IExchangeObject& operator=(const IExchangeObject&) = default;
+    IExchangeObject& operator=(IExchangeObject&&) = default;
+
+    std::wstring m_source; // name of the shared-memory buffer holding the binary data
+    bool m_loaded = false; // set once load() has read the source
+};
+
+// Gives a concrete exchange object class its type-name boilerplate. The class derives from
+// ExchangeObjectType<Itself, Base> and names its type once:
+//
+//   class HRM_API ExcMessage : public ExchangeObjectType<ExcMessage, ExcMessageBase>
+//   {
+//   public:
+//       static constexpr wchar_t s_objectName[] = L"exc_message";
+//       using ExchangeObjectType::ExchangeObjectType;
+//   };
+//
+// and one source of the library registers its prototype: HRM_REGISTER_EXCHANGE_OBJECT(ExcMessage).
+template <class Derived, class Base = IExchangeObject>
+class ExchangeObjectType : public Base
+{
+public:
+    using Base::Base;
+
+    static const std::wstring& objName()
+    {
+        static const std::wstring name(Derived::s_objectName);
+        return name;
+    }
+    const std::wstring& objectName() const override { return objName(); }
+    std::shared_ptr<IExchangeObject> clone() const override { return std::make_shared<Derived>(); }
+};
+
+// The process-wide map from type name to a registered prototype, ordered by UTF-16 code
+// units. It does not own the prototypes. Filled during static initialisation and read-only
+// afterwards; it has no lock.
+class HRM_API ExchangeObjectRegistry
+{
+public:
+    static ExchangeObjectRegistry& instance();
+
+    ExchangeObjectRegistry(const ExchangeObjectRegistry&) = delete;
+    ExchangeObjectRegistry& operator=(const ExchangeObjectRegistry&) = delete;
+
+    // Registers `prototype` under its objectName(), replacing an earlier one of that name.
+    // Null is ignored.
+    void add(IExchangeObject* prototype);
+    // Erases the entry of the prototype's objectName(), whichever prototype it holds. Null is
+    // ignored.
+    void remove(IExchangeObject* prototype);
+    // A fresh object of the named type (the prototype's clone()), or null for an unknown name.
+    std::shared_ptr<IExchangeObject> get(const std::wstring& name) const;
+
+private:
+    ExchangeObjectRegistry();
+    ~ExchangeObjectRegistry();
+
+    class Prototypes;
+    std::unique_ptr<Prototypes> m_prototypes;
+};
+
+// A prototype of T that registers itself for its lifetime. Define one static instance per
+// exchange object class (HRM_REGISTER_EXCHANGE_OBJECT).
+template <class T>
+class StaticExchangeObject : public T
+{
+public:
+    StaticExchangeObject() { ExchangeObjectRegistry::instance().add(this); }
+    ~StaticExchangeObject() override { ExchangeObjectRegistry::instance().remove(this); }
+    StaticExchangeObject(const StaticExchangeObject&) = delete;
+    StaticExchangeObject& operator=(const StaticExchangeObject&) = delete;
+};
+
+// One exchange object in its envelope: {"exchange_object_name": type name, "binary": true
+// (binary objects only), "exchange_object_data": the object's JSON, or the name of the
+// shared-memory buffer holding a binary object}. Written compact.
+class HRM_API ExchangeObjectWrapper : public mp::ISerializable
+{
+public:
+    ExchangeObjectWrapper() = default;
+
+    void set(const std::shared_ptr<IExchangeObject>& object) { m_pObject = object; }
+    // The object of the last set() or readObject() (null after reading an unknown type).
+    std::shared_ptr<IExchangeObject> get() const { return m_pObject; }
+    // With delayed loading, reading a binary object only records its source; the caller
+    // calls load().
+    void setDelayedLoading(bool delayed) { m_delayedLoading = delayed; }
+
+    // Writes the envelope. A binary object is encoded (and compressed when compress()) into
+    // a new shared-memory buffer named by a new UUID, which stays after the call.
+    // Throws std::invalid_argument when there is no object.
+    void writeObject(std::wostream& out) const override;
+    // Reads an envelope and creates the object of the named type from the registry. An
+    // unknown or missing type name leaves no object and is not an error. Throws
+    // std::invalid_argument("Invalid json document") when the text is not a JSON object.
+    void readObject(std::wistream& in) override;
+
+private:
+    std::shared_ptr<IExchangeObject> m_pObject;
+    bool m_delayedLoading = false;
+};
+
+// ---- Status objects: messages, log lines, progress, finished stages, results ---------------
+
+// A free text that travels as {"message": text}.
+class HRM_API ExcMessageBase : public IExchangeObject
+{
+public:
+    ExcMessageBase() = default;
+    explicit ExcMessageBase(const std::wstring& message) : m_message(message) {}
+    explicit ExcMessageBase(const wchar_t* message) : m_message(message ? message : L"") {}
+
+    const std::wstring& message() const { return m_message; }
+    void setMessage(const std::wstring& message) { m_message = message; }
+
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+private:
+    std::wstring m_message;
+};
+
+// A message for the user.
+class HRM_API ExcMessage : public ExchangeObjectType<ExcMessage, ExcMessageBase>
+{
+public:
+    static constexpr wchar_t s_objectName[] = L"exc_message";
+    using ExchangeObjectType::ExchangeObjectType;
+};
+
+// A line for the host's log.
+class HRM_API ExcLog : public ExchangeObjectType<ExcLog, ExcMessageBase>
+{
+public:
+    static constexpr wchar_t s_objectName[] = L"exc_log";
+    using ExchangeObjectType::ExchangeObjectType;
+};
+
+// How far the running stage has got: {"progress", "progress_max", "pulse", "stage"}. With
+// pulse, the amount is unknown and the receiver shows activity instead of a fraction.
+class HRM_API ExcProgress : public ExchangeObjectType<ExcProgress>
+{
+public:
+    static constexpr wchar_t s_objectName[] = L"exc_progress";
+
+    int32_t progress() const { return m_progress; }
+    void setProgress(int32_t progress) { m_progress = progress; }
+    int32_t progressMax() const { return m_progressMax; }
+    void setProgressMax(int32_t progressMax) { m_progressMax = progressMax; }
+    bool pulse() const { return m_pulse; }
+    void setPulse(bool pulse) { m_pulse = pulse; }
+    const std::wstring& stage() const { return m_stage; }
+    void setStage(const std::wstring& stage) { m_stage = stage; }
+
+    // Compares progress, maximum and stage; two reports that differ only in pulse are equal.
+    bool operator==(const ExcProgress& other) const;
+    bool operator!=(const ExcProgress& other) const { return !(*this == other); }
+
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+private:
+    int32_t m_progress = 0;
+    int32_t m_progressMax = 100;
+    bool m_pulse = false;
+    std::wstring m_stage;
+};
+
+// The news that one part of the output is complete. Travels as a bare JSON string.
+class HRM_API ExcStageFinished : public ExchangeObjectType<ExcStageFinished>
+{
+public:
+    enum class EStage : int32_t
+    {
+        Unknown = 0,
+        ProductStructure = 1,
+        RootVisualization = 2,
+        Visualization = 3,
+        RootMechanical = 4,
+        Mechanical = 5,
+        VisuAndMech = 6,
+    };
+
+    static constexpr wchar_t s_objectName[] = L"exc_stage_finished";
+
+    ExcStageFinished() = default;
+    explicit ExcStageFinished(EStage stage) : m_stage(stage) {}
+
+    EStage stage() const { return m_stage; }
+    void setStage(EStage stage) { m_stage = stage; }
+
+    // A value outside the enumeration writes "unknown"; an unknown string reads as
+    // Mechanical (the alphabetically first word), as the enumeration rules say.
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+private:
+    EStage m_stage = EStage::Unknown;
+};
+
+// The outcome of a command, a document of its own:
+// {"code": word, "message": text (only when not empty), "is_finished": flag}, written pretty.
+class HRM_API Result : public mp::ISerializable
+{
+public:
+    enum class ECode : int32_t
+    {
+        Unknown = 0,
+        Ok = 1,
+        Warning = 2,
+        Error = 3,
+        Interrupted = 4,
+    };
+
+    ECode code() const { return m_code; }
+    void setCode(ECode code) { m_code = code; }
+    const std::wstring& message() const { return m_message; }
+    void setMessage(const std::wstring& message) { m_message = message; }
+    bool isFinished() const { return m_finished; }
+    void setFinished(bool finished) { m_finished = finished; }
+
+    void writeObject(std::wostream& out) const override;
+    // Throws std::invalid_argument with "Invalid json document" for text that is not a JSON
+    // object and "Json document has no result code." without "code". A code that is not one
+    // of the known words reads as Unknown; a missing "message" or "is_finished" keeps its
+    // field, and "is_finished" is true only for the literal true.
+    void readObject(std::wistream& in) override;
+
+private:
+    ECode m_code = ECode::Ok;
+    std::wstring m_message;
+    bool m_finished = false;
+};
+
+// ---- Legacy component maps ------------------------------------------------------------------
+
+// A database handle of the host's drawing database, ordered numerically.
+using OdDbHandle = uint64_t;
+
+// The instance name of each component: [{"component_handle": handle, "component_name": name}, ...]
+// in ascending handle order.
+class HRM_API LegacyComponentInstanceNames : public ExchangeObjectType<LegacyComponentInstanceNames>
+{
+public:
+    using Map = std::map<OdDbHandle, std::wstring>;
+
+    static constexpr wchar_t s_objectName[] = L"legacy_component_instance_names";
+
+    const Map& map() const { return m_map; }
+    void setMap(const Map& map) { m_map = map; }
+    // Sets the name of `handle`, replacing an earlier one. Always true.
+    bool addInstanceName(const OdDbHandle& handle, const std::wstring& name);
+    // Adds the entries of `other` whose handles are not yet present.
+    void merge(const LegacyComponentInstanceNames& other);
+
+    // Throws std::invalid_argument when `value` is not an array; skips malformed elements.
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+private:
+    Map m_map;
+};
+
+// The physical material of each component:
+// [{"component_handle": handle, "component_material": {...}}, ...] in ascending handle order.
+class HRM_API LegacyMaterialMap : public ExchangeObjectType<LegacyMaterialMap>
+{
+public:
+    struct HRM_API Material
+    {
+        bool hasMaterial = false;
+        std::wstring name;
+        double density = 0.0;
+        double thermalConductivity = 0.0;
+        double specificHeat = 0.0;
+
+        bool operator==(const Material& other) const;
+        bool operator!=(const Material& other) const { return !(*this == other); }
+    };
+    using Map = std::map<OdDbHandle, Material>;
+
+    static constexpr wchar_t s_objectName[] = L"legacy_component_material_map";
+
+    const Map& map() const { return m_map; }
+    void setMap(const Map& map) { m_map = map; }
+    // Sets the material of `handle`, replacing an earlier one. Always true.
+    bool addMaterial(const OdDbHandle& handle, const Material& material);
+    // Adds the entries of `other` whose handles are not yet present.
+    void merge(const LegacyMaterialMap& other);
+
+    // Throws std::invalid_argument when `value` is not an array; skips malformed elements.
+    // The three physical values are taken only when stored as doubles (7800.0, not 7800).
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+private:
+    Map m_map;
+};
+
+} // namespace hrm
+
+HRM_DECLARE_ENUM_STRINGS(hrm::ExcStageFinished::EStage)
+
+// Defines the static prototype that registers exchange object class T (at namespace scope, in
+// one source file).
+#define HRM_REGISTER_EXCHANGE_OBJECT(T) static ::hrm::StaticExchangeObject<T> s_prototype##T

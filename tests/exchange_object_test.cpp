@@ -1,0 +1,162 @@
+#include <hrm_api/hrm_api_exchange_object.h>
+#include <mp/mp_exception.h>
+#include <mp/mp_shared_buffer.h>
+
+#include "support/expect_message.h"
+#include "support/log_capture.h"
+#include "support/test_exchange_object.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <sstream>
+
+namespace hrm {
+namespace {
+
+using test::BinaryObject;
+using Buffer = mp::SharedBuffer<char>;
+
+std::wstring envelopeOf(const std::shared_ptr<IExchangeObject>& object)
+{
+    ExchangeObjectWrapper wrapper;
+    wrapper.set(object);
+    std::wostringstream out;
+    wrapper.writeObject(out);
+    return out.str();
+}
+
+std::shared_ptr<IExchangeObject> readEnvelope(const std::wstring& text, bool delayed = false)
+{
+    ExchangeObjectWrapper wrapper;
+    wrapper.setDelayedLoading(delayed);
+    std::wistringstream in(text);
+    wrapper.readObject(in);
+    return wrapper.get();
+}
+
+// The buffer name that a binary envelope carries: a lowercase version 4 UUID.
+std::wstring sourceOf(const std::wstring& envelope)
+{
+    static const std::wregex binary(
+        LR"re(\{"exchange_object_name":"test_binary_object","binary":true,"exchange_object_data":)re"
+        LR"re("([0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12})"\})re");
+    std::wsmatch match;
+    return std::regex_match(envelope, match, binary) ? match[1].str() : L"";
+}
+
+template <int Variant>
+class Probe : public ExchangeObjectType<Probe<Variant>>
+{
+public:
+    static constexpr wchar_t s_objectName[] = L"test_probe";
+    void readObject(const JsonValue&) override {}
+    void writeObject(JsonValue& value, JsonAllocator&) const override { value.SetNull(); }
+};
+
+TEST(ExchangeObjectRegistry, ClonesByNameAndReplacesOrRemovesByName)
+{
+    auto& registry = ExchangeObjectRegistry::instance();
+    const auto first = registry.get(L"exc_message");
+    EXPECT_TRUE(std::dynamic_pointer_cast<ExcMessage>(first));
+    EXPECT_NE(first, registry.get(L"exc_message"));
+    EXPECT_FALSE(registry.get(L"Exc_message"));
+
+    StaticExchangeObject<Probe<1>> original;
+    {
+        StaticExchangeObject<Probe<2>> replacement;
+        EXPECT_TRUE(std::dynamic_pointer_cast<Probe<2>>(registry.get(L"test_probe")));
+    }
+    EXPECT_FALSE(registry.get(L"test_probe")); // removed by name, whichever prototype it held
+}
+
+TEST(ExchangeObjectWrapper, InlineEnvelopesAndTheirFaults)
+{
+    EXPECT_EQ(envelopeOf(std::make_shared<ExcMessage>(L"hi")),
+              LR"({"exchange_object_name":"exc_message","exchange_object_data":{"message":"hi"}})");
+    const auto read = readEnvelope(
+        LR"({"exchange_object_name":"exc_log","binary":false,"exchange_object_data":{"message":"x"}})");
+    ASSERT_TRUE(std::dynamic_pointer_cast<ExcLog>(read));
+    EXPECT_EQ(std::static_pointer_cast<ExcLog>(read)->message(), L"x");
+    EXPECT_FALSE(read->isLoaded()); // the flag records binary loads only
+
+    test::LogCapture log;
+    for (const wchar_t* unknown : {LR"({"exchange_object_name":"no_such_type","exchange_object_data":{}})",
+                                   LR"({"exchange_object_name":7,"exchange_object_data":{}})", L"{}"})
+        EXPECT_FALSE(readEnvelope(unknown));
+    EXPECT_TRUE(log.messages(ax_herm::Error).empty());
+    EXPECT_TRUE(readEnvelope(LR"({"exchange_object_name":"exc_message"})"));
+    EXPECT_TRUE(readEnvelope(LR"({"exchange_object_name":"exc_message","binary":true,"exchange_object_data":{}})"));
+    EXPECT_EQ(log.messages(ax_herm::Error),
+              (std::vector<std::string>{
+                  "ExchangeObjectWrapper JSON object has no Exchange Object data.",
+                  "ExchangeObjectWrapper JSON object should have UUID in Exchange Object Data field (if binary)."}));
+    // "binary" for a class that is not binary: the source is recorded and load() does nothing.
+    const auto announced = readEnvelope(
+        LR"({"exchange_object_name":"exc_message","binary":true,"exchange_object_data":"no-such-buffer"})");
+    EXPECT_EQ(announced->source(), L"no-such-buffer");
+    EXPECT_FALSE(announced->isLoaded());
+
+    for (const wchar_t* text : {L"", L"[1]", L"{\"exchange_object_name\":", L"\"exc_message\""})
+        test::expectMessage<std::invalid_argument>([&] { readEnvelope(text); }, "Invalid json document");
+    test::expectMessage<std::invalid_argument>([] { envelopeOf(nullptr); },
+                                               "ExchangeObjectWrapper::writeObject > m_pObject == nullptr");
+}
+
+TEST(ExchangeObjectWrapper, BinaryObjectsTravelInSharedMemory)
+{
+    for (const bool compressed : {true, false}) {
+        const auto written = test::filledBinaryObject(compressed);
+        const std::wstring envelope = envelopeOf(written);
+        const std::wstring source = sourceOf(envelope);
+        ASSERT_FALSE(source.empty()) << envelope;
+        const Buffer cleanup(source, true, Buffer::Open::Existing);
+        std::vector<char> payload;
+        cleanup.read(payload);
+        EXPECT_EQ(payload.size() > 2 && payload[0] == '\x1f' && payload[1] == '\x8b', compressed);
+        const auto read = std::dynamic_pointer_cast<BinaryObject>(readEnvelope(envelope));
+        EXPECT_TRUE(read->isLoaded());
+        EXPECT_EQ(*read, *written);
+    }
+    const auto object = test::filledBinaryObject(true);
+    const std::wstring first = sourceOf(envelopeOf(object)), second = sourceOf(envelopeOf(object));
+    EXPECT_NE(first, second); // every write makes a new buffer
+    EXPECT_TRUE(Buffer::remove(first));
+    EXPECT_TRUE(Buffer::remove(second));
+}
+
+TEST(ExchangeObjectWrapper, DelayedLoading)
+{
+    const std::wstring envelope = envelopeOf(test::filledBinaryObject(true));
+    const auto object = std::static_pointer_cast<BinaryObject>(readEnvelope(envelope, true));
+    EXPECT_EQ(object->source(), sourceOf(envelope));
+    EXPECT_FALSE(object->isLoaded());
+    EXPECT_EQ(*object, BinaryObject()); // announced only
+    object->load();
+    EXPECT_TRUE(object->isLoaded());
+    EXPECT_EQ(*object, *test::filledBinaryObject(true));
+    EXPECT_TRUE(Buffer::remove(object->source()));
+    EXPECT_NO_THROW(object->load()); // loaded once: the buffer is not looked at again
+}
+
+TEST(ExchangeObject, LoadFailuresLeaveTheObjectUnloaded)
+{
+    BinaryObject missing;
+    missing.setSource(IExchangeObject::generateUUID());
+    EXPECT_THROW(missing.load(), mp::SharedMemoryException);
+    EXPECT_FALSE(missing.isLoaded());
+    EXPECT_FALSE(Buffer::remove(missing.source())); // load() created no buffer
+
+    const std::wstring name = IExchangeObject::generateUUID();
+    Buffer corrupt(name, true);
+    for (const std::string& bytes : {std::string(), std::string("\x1f\x8b\x08garbage", 10), std::string("\xff\xff\xff")}) {
+        corrupt.write(bytes.data(), bytes.size());
+        BinaryObject object;
+        object.setSource(name);
+        EXPECT_ANY_THROW(object.load());
+        EXPECT_FALSE(object.isLoaded());
+    }
+}
+
+} // namespace
+} // namespace hrm
