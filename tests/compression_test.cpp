@@ -1,5 +1,7 @@
 #include <hrm_api/hrm_api_compression.h>
 
+#include "support/size_limit.h"
+
 #include <gtest/gtest.h>
 
 #include <zlib.h>
@@ -89,13 +91,6 @@ Bytes zeroBomb(size_t mebibytes)
     return bomb;
 }
 
-// Sets the library-wide decompression limit for one scope.
-struct SizeLimit
-{
-    explicit SizeLimit(size_t bytes) { Compressor::setDecompressedSizeLimit(bytes); }
-    ~SizeLimit() { Compressor::setDecompressedSizeLimit(Compressor::defaultDecompressedSizeLimit); }
-};
-
 TEST(Compressor, RecognisesZlibAndGzipHeaders)
 {
     const auto is = [](std::initializer_list<unsigned char> bytes) {
@@ -172,7 +167,7 @@ TEST(Compressor, DecompressedSizeIsBoundedForTheWholeLibrary)
     // Four gibibytes from a few megabytes are refused at the limit, with no more room taken.
     const Bytes bomb = zeroBomb(4096);
     EXPECT_LT(bomb.size(), 8 * mebibyte);
-    const SizeLimit limit(mebibyte);
+    const test::SizeLimit limit(mebibyte);
     const auto limitError = [&](auto& out, size_t maxSize) {
         try {
             Compressor::decompress(out, bomb.data(), bomb.size(), maxSize);

@@ -18,9 +18,10 @@ public:
     static constexpr size_t defaultDecompressedSizeLimit = size_t(4) << 30; // 4 GiB
 
     // The library-wide limit on the size of decompressed data: what decompress() allows when
-    // the caller names no limit, and so what the exchange-object loader lets a payload from
-    // shared memory inflate to. defaultDecompressedSizeLimit until changed; it may be changed
-    // at any time from any thread and applies to the decompressions that start afterwards.
+    // the caller names no limit. The exchange-object loader holds a shared-memory payload to
+    // it both before (raw) and after decompression. defaultDecompressedSizeLimit until
+    // changed; it may be changed at any time from any thread and applies to the operations
+    // that start afterwards.
     static void setDecompressedSizeLimit(size_t bytes);
     static size_t decompressedSizeLimit();
 
