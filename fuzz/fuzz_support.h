@@ -53,19 +53,19 @@ inline std::wstring wideText(const uint8_t* data, size_t size)
     return toWide(std::string(reinterpret_cast<const char*>(data), size));
 }
 
-// Doubles that differ by a few units in the last place: RapidJSON's default parse, which the
-// text reader uses, is not exactly rounded, so a double written as text can come back a
-// little different.
+// Doubles with the same bits, or that differ by a few units in the last place: RapidJSON's
+// default parse, which the text reader uses, is not exactly rounded, so a double written as
+// text can come back a little different.
 inline bool nearlyEqual(double a, double b)
 {
-    if (a == b)
-        return true;
-    if (std::signbit(a) != std::signbit(b) || std::isnan(a) || std::isnan(b))
-        return false;
     int64_t x = 0;
     int64_t y = 0;
     std::memcpy(&x, &a, sizeof x);
     std::memcpy(&y, &b, sizeof y);
+    if (x == y || a == b)
+        return true;
+    if (std::signbit(a) != std::signbit(b) || std::isnan(a) || std::isnan(b))
+        return false;
     return (x > y ? x - y : y - x) <= 4;
 }
 

@@ -3,8 +3,11 @@
 //
 //   make_corpus fuzz/corpus
 
+#include "fuzz_exchange_object.h"
+
 #include <hrm_api/hrm_api_command.h>
 #include <hrm_api/hrm_api_compression.h>
+#include <hrm_api/hrm_api_exchange_object.h>
 #include <hrm_api/hrm_api_format_options.h>
 #include <hrm_api/hrm_api_format_options_export.h>
 #include <hrm_api/hrm_api_hermetor_info.h>
@@ -177,6 +180,62 @@ void base64()
     save("base64", "stops.txt", "TWFu TWE=\nTQ==-_");
 }
 
+std::string envelopeOf(const std::shared_ptr<IExchangeObject>& object)
+{
+    ExchangeObjectWrapper wrapper;
+    wrapper.set(object);
+    return textOf(wrapper);
+}
+
+// Envelopes of the inline types, and of the binary object with its payload after a NUL byte,
+// compressed and raw, as the envelope target expects them.
+void envelopes()
+{
+    auto progress = std::make_shared<ExcProgress>();
+    progress->setProgress(40);
+    progress->setStage(L"Reading");
+    auto names = std::make_shared<LegacyComponentInstanceNames>();
+    names->addInstanceName(42, L"Bolt");
+    auto materials = std::make_shared<LegacyMaterialMap>();
+    materials->addMaterial(7, {true, L"Steel", 7850.0, 50.2, 0.49});
+    save("envelope", "message.json", envelopeOf(std::make_shared<ExcMessage>(L"Translating")));
+    save("envelope", "log.json", envelopeOf(std::make_shared<ExcLog>(L"line")));
+    save("envelope", "progress.json", envelopeOf(progress));
+    save("envelope", "stage.json", envelopeOf(std::make_shared<ExcStageFinished>(ExcStageFinished::EStage::VisuAndMech)));
+    save("envelope", "names.json", envelopeOf(names));
+    save("envelope", "materials.json", envelopeOf(materials));
+
+    fuzz::BinaryObject object;
+    object.text = L"Gear \u00e9\U0001F600";
+    object.number = 18446744073709551615u;
+    object.count = -3;
+    object.real = 0.25;
+    object.flag = true;
+    object.words = {L"a", L"b"};
+    object.progress.setProgress(7);
+    object.messages = {std::make_shared<ExcMessage>(L"one"), std::make_shared<ExcMessage>(L"two")};
+    JsonDocument value;
+    object.writeObject(value, value.GetAllocator());
+    std::vector<char> raw;
+    JsonBinaryIO::encode(value, raw);
+    std::vector<char> gzip;
+    Compressor::compress(gzip, raw.data(), raw.size(), -1);
+    const std::string envelope = "{\"exchange_object_name\":\"fuzz_binary_object\",\"binary\":true,"
+                                 "\"exchange_object_data\":\"" + toNarrow(fuzz::payloadBuffer) + "\"}";
+    save("envelope", "binary_gzip.bin", envelope + '\0' + bytesOf(gzip));
+    save("envelope", "binary_raw.bin", envelope + '\0' + bytesOf(raw));
+}
+
+void results()
+{
+    Result result;
+    save("result", "ok.json", textOf(result));
+    result.setCode(Result::ECode::Error);
+    result.setMessage(L"Cannot open \"gear.stp\"");
+    result.setFinished(true);
+    save("result", "error.json", textOf(result));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -190,5 +249,7 @@ int main(int argc, char** argv)
     hermetorInfo();
     binaryDocuments();
     base64();
+    envelopes();
+    results();
     return 0;
 }
