@@ -36,6 +36,9 @@ public:
     // is at depth 1), so that hostile data cannot build a document that recursive consumers
     // cannot walk.
     static constexpr size_t maxNestingDepth = 512;
+    // Members or elements of one container, at most: RapidJSON's growth arithmetic (32-bit)
+    // would wrap round beyond about 2.9 billion. Only a payload of gigabytes comes near it.
+    static constexpr size_t maxContainerSize = size_t(1) << 31;
 
     // Appends the encoding of `value` to `out`. Throws std::invalid_argument("JsonBinaryIO:
     // Unknown number type") for a number of no known kind; `out` then holds a partial value.
@@ -51,7 +54,9 @@ public:
     //   the data does not hold;
     // - std::invalid_argument: a tag above 10 ("JsonBinaryIO: Unknown value type"), a member
     //   name that is not a string ("JsonBinaryIO: Member name is not a string"), nesting deeper
-    //   than maxNestingDepth ("JsonBinaryIO: Nesting too deep").
+    //   than maxNestingDepth ("JsonBinaryIO: Nesting too deep");
+    // - std::length_error("JsonBinaryIO: Container too large") for a container with more than
+    //   maxContainerSize members or elements.
     static size_t decode(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator);
 
     // Writes the encoding of `value` at the put position in one write.

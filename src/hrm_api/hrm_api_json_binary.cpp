@@ -292,6 +292,7 @@ public:
             if (offset() >= top.end) {
                 m_open.pop_back();
             } else if (top.value->IsObject()) {
+                requireRoom(top.value->MemberCount());
                 JsonValue name;
                 if (tag() != TagString)
                     throw std::invalid_argument("JsonBinaryIO: Member name is not a string");
@@ -300,6 +301,7 @@ public:
                 top.value->AddMember(name, member, m_allocator);
                 this->value((top.value->MemberEnd() - 1)->value);
             } else {
+                requireRoom(top.value->Size());
                 JsonValue element;
                 top.value->PushBack(element, m_allocator);
                 this->value(*(top.value->End() - 1));
@@ -316,6 +318,12 @@ private:
     };
 
     size_t offset() const { return static_cast<size_t>(m_at - m_begin); }
+
+    static void requireRoom(size_t entries)
+    {
+        if (entries == JsonBinaryIO::maxContainerSize)
+            throw std::length_error("JsonBinaryIO: Container too large");
+    }
     size_t remaining() const { return static_cast<size_t>(m_end - m_at); }
 
     // Reads one value; a container is left open on the stack for decode() to fill.
