@@ -78,7 +78,9 @@ public:
     // Text nested deeper than maxNestingDepth is a parse error too: the text is taken to end
     // just before the first container past the bound, so the error is RapidJSON's for text
     // cut short there (usually kParseErrorValueInvalid) at that container's offset, unless
-    // the text has a syntax error before it. Parsing itself never recurses.
+    // the text has a syntax error before it. A number beyond the range of a double, which
+    // RapidJSON's default parse would read as infinity (5e308), is a parse error as well:
+    // kParseErrorNumberTooBig at the number. Parsing itself never recurses.
     static std::wistream& read(std::wistream& in, JsonDocument& document);
 
     // The same operations on a wide string, for callers that already hold the text.
