@@ -149,12 +149,14 @@ TEST(Command, WritingFailuresLeaveTheStream)
 
 TEST(Command, MalformedDocuments)
 {
+    const std::wstring tooDeep = L"{\"command\": \"ping\", \"x\": " + std::wstring(1000000, L'[');
     const std::pair<const wchar_t*, const char*> cases[] = {
         {L"", "Invalid json document"},
         {L"command", "Invalid json document"},
         {L"[{\"command\": \"ping\"}]", "Invalid json document"},
         {L"\"ping\"", "Invalid json document"},
         {L"{\"command\": \"ping\"} {}", "Invalid json document"},
+        {tooDeep.c_str(), "Invalid json document"},
         {L"{}", "Json document has no command type."},
         {L"{\"command\": 4}", "Json document has no command type."},
         {L"{\"command\": \"import\"}", "Import command should contain options."},

@@ -1,5 +1,7 @@
 #include <hrm_api/hrm_api_compression.h>
 
+#include "support/size_limit.h"
+
 #include <gtest/gtest.h>
 
 #include <zlib.h>
@@ -62,6 +64,31 @@ std::string failureOf(Operation operation)
 std::string zlibMessage(const Bytes& data)
 {
     return failureOf([&] { decompressed(data); });
+}
+
+// A zlib stream of `mebibytes` MiB of zeros at about a kilobyte per MiB: one block of a MiB,
+// flushed so that it stands alone, repeated; the stream is left unfinished.
+Bytes zeroBomb(size_t mebibytes)
+{
+    Bytes zeros(size_t(1) << 20, '\0');
+    z_stream stream{};
+    EXPECT_EQ(deflateInit(&stream, 9), Z_OK);
+    const auto flushed = [&] {
+        Bytes out(compressBound(static_cast<uLong>(zeros.size())));
+        stream.next_in = reinterpret_cast<Bytef*>(zeros.data());
+        stream.avail_in = static_cast<uInt>(zeros.size());
+        stream.next_out = reinterpret_cast<Bytef*>(out.data());
+        stream.avail_out = static_cast<uInt>(out.size());
+        deflate(&stream, Z_FULL_FLUSH);
+        out.resize(out.size() - stream.avail_out);
+        return out;
+    };
+    Bytes bomb = flushed(); // the zlib header and the first block
+    const Bytes block = flushed();
+    deflateEnd(&stream);
+    for (size_t i = 1; i < mebibytes; ++i)
+        bomb.insert(bomb.end(), block.begin(), block.end());
+    return bomb;
 }
 
 TEST(Compressor, RecognisesZlibAndGzipHeaders)
@@ -129,6 +156,40 @@ TEST(Compressor, InflatesForeignZlibStreamsAndLargeRatios)
     Bytes limited;
     EXPECT_NO_THROW(Compressor::decompress(limited, gzip.data(), gzip.size(), repetitive.size()));
     EXPECT_THROW(Compressor::decompress(limited, gzip.data(), gzip.size(), repetitive.size() - 1), std::length_error);
+}
+
+TEST(Compressor, DecompressedSizeIsBoundedForTheWholeLibrary)
+{
+    EXPECT_EQ(Compressor::decompressedSizeLimit(), size_t(4) << 30);
+    const size_t mebibyte = size_t(1) << 20;
+    EXPECT_EQ(decompressed(zeroBomb(3)), Bytes(3 * mebibyte, '\0'));
+
+    // Four gibibytes from a few megabytes are refused at the limit, with no more room taken.
+    const Bytes bomb = zeroBomb(4096);
+    EXPECT_LT(bomb.size(), 8 * mebibyte);
+    const test::SizeLimit limit(mebibyte);
+    const auto limitError = [&](auto& out, size_t maxSize) {
+        try {
+            Compressor::decompress(out, bomb.data(), bomb.size(), maxSize);
+        } catch (const std::length_error& error) {
+            return std::string(error.what());
+        }
+        return std::string("no exception");
+    };
+    Bytes bytes;
+    std::string text;
+    EXPECT_EQ(limitError(bytes, Compressor::decompressedSizeLimit()), "Compressor: decompressed data exceeds the size limit");
+    EXPECT_LE(bytes.capacity(), mebibyte + 1);
+    EXPECT_EQ(limitError(text, Compressor::decompressedSizeLimit()), "Compressor: decompressed data exceeds the size limit");
+    EXPECT_THROW(decompressed(zeroBomb(2)), std::length_error);
+
+    // Exactly the limit passes; a limit given to the call overrides the library's.
+    EXPECT_EQ(decompressed(zeroBomb(1)).size(), mebibyte);
+    EXPECT_EQ(limitError(bytes, 3 * mebibyte), "Compressor: decompressed data exceeds the size limit");
+    EXPECT_LE(bytes.capacity(), 3 * mebibyte + 1);
+    const Bytes three = zeroBomb(3);
+    Compressor::decompress(bytes, three.data(), three.size(), 3 * mebibyte);
+    EXPECT_EQ(bytes.size(), 3 * mebibyte);
 }
 
 TEST(Compressor, TruncatedStreamsGiveAPrefixAndCorruptOnesThrow)

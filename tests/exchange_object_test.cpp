@@ -4,12 +4,17 @@
 
 #include "support/expect_message.h"
 #include "support/log_capture.h"
+#include "support/size_limit.h"
 #include "support/test_exchange_object.h"
 
 #include <gtest/gtest.h>
 
 #include <regex>
 #include <sstream>
+
+#if defined(__linux__)
+#include <sys/stat.h>
+#endif
 
 namespace hrm {
 namespace {
@@ -156,6 +161,71 @@ TEST(ExchangeObject, LoadFailuresLeaveTheObjectUnloaded)
         EXPECT_ANY_THROW(object.load());
         EXPECT_FALSE(object.isLoaded());
     }
+}
+
+TEST(ExchangeObject, PayloadsAreHeldToTheLibrarySizeLimit)
+{
+    // About 700 bytes of binary JSON; compressed, about a hundred.
+    const std::wstring compressed = sourceOf(envelopeOf(test::filledBinaryObject(true)));
+    const std::wstring raw = sourceOf(envelopeOf(test::filledBinaryObject(false)));
+    const Buffer removeCompressed(compressed, true, Buffer::Open::Existing);
+    const Buffer removeRaw(raw, true, Buffer::Open::Existing);
+    const auto load = [](const std::wstring& source) {
+        BinaryObject object;
+        object.setSource(source);
+        object.load();
+    };
+    {
+        const test::SizeLimit limit(300);
+        test::expectMessage<std::length_error>([&] { load(compressed); },
+                                               "Compressor: decompressed data exceeds the size limit");
+        test::expectMessage<mp::SharedMemoryException>([&] { load(raw); },
+                                                       "Shared buffer is larger than the size limit");
+    }
+    EXPECT_NO_THROW(load(compressed));
+    EXPECT_NO_THROW(load(raw));
+}
+
+TEST(ExchangeObjectWrapper, SharedMemoryIsForTheOwnerOnly)
+{
+#if !defined(__linux__)
+    GTEST_SKIP() << "checked where shared memory lives in /dev/shm; on Windows the object is a file in "
+                    "Boost's shared folder and takes that folder's access rules";
+#else
+    const std::wstring source = sourceOf(envelopeOf(test::filledBinaryObject(true)));
+    const Buffer cleanup(source, true, Buffer::Open::Existing);
+    struct stat status = {};
+    ASSERT_EQ(stat(("/dev/shm/" + toNarrow(source)).c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600u);
+#endif
+}
+
+TEST(ExchangeObjectWrapper, RemoveAfterLoadingLeavesNothingBehind)
+{
+    ExchangeObjectWrapper reader;
+    reader.setRemoveAfterLoading(true);
+    const auto read = [&](const std::wstring& envelope) {
+        std::wistringstream in(envelope);
+        reader.readObject(in);
+    };
+    const auto object = test::filledBinaryObject(true);
+    for (int i = 0; i < 2000; ++i) {
+        const std::wstring envelope = envelopeOf(object);
+        read(envelope);
+        ASSERT_EQ(*std::static_pointer_cast<BinaryObject>(reader.get()), *object);
+        ASSERT_FALSE(Buffer::remove(sourceOf(envelope))) << "left behind after round trip " << i;
+    }
+
+    // A corrupt payload goes too; the buffer named by an object that is not binary stays.
+    const std::wstring corrupt = IExchangeObject::generateUUID();
+    Buffer(corrupt, false).write("\x1f\x8b\x08garbage", 10);
+    EXPECT_ANY_THROW(read(LR"({"exchange_object_name":"test_binary_object","binary":true,"exchange_object_data":")"
+                          + corrupt + L"\"}"));
+    EXPECT_FALSE(Buffer::remove(corrupt));
+    const std::wstring other = IExchangeObject::generateUUID();
+    const Buffer kept(other, true);
+    read(LR"({"exchange_object_name":"exc_message","binary":true,"exchange_object_data":")" + other + L"\"}");
+    EXPECT_NO_THROW(Buffer(other, false, Buffer::Open::Existing));
 }
 
 } // namespace

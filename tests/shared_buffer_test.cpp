@@ -73,5 +73,23 @@ TEST(SharedBuffer, LifetimeAndFailures)
     EXPECT_TRUE(contentOf(name).empty()); // the moved-from buffer removed nothing
 }
 
+TEST(SharedBuffer, HostileNamesAndSizes)
+{
+    // A path separator could lead out of the shared-memory folder (Windows keeps the objects
+    // as files there).
+    for (const wchar_t* name : {L"../hrm_test", L"a/b", L"..\\hrm_api.dll"}) {
+        expectMessage<SharedMemoryException>([&] { Buffer(name, false); },
+                                             "Shared variable name mustn't contain a path separator");
+        EXPECT_FALSE(Buffer::remove(name));
+    }
+
+    Buffer owner(uniqueName(), true);
+    owner.write("abcd", 4);
+    std::vector<char> out;
+    owner.read(out, 4);
+    EXPECT_EQ(out, (std::vector<char>{'a', 'b', 'c', 'd'}));
+    expectMessage<SharedMemoryException>([&] { owner.read(out, 3); }, "Shared buffer is larger than the size limit");
+}
+
 } // namespace
 } // namespace mp

@@ -15,8 +15,15 @@ namespace hrm {
 class HRM_API Compressor
 {
 public:
-    // Decompression stops with std::length_error when the output would pass this size.
-    static constexpr size_t maxDecompressedSize = size_t(4) << 30; // 4 GiB
+    static constexpr size_t defaultDecompressedSizeLimit = size_t(4) << 30; // 4 GiB
+
+    // The library-wide limit on the size of decompressed data: what decompress() allows when
+    // the caller names no limit. The exchange-object loader holds a shared-memory payload to
+    // it both before (raw) and after decompression. defaultDecompressedSizeLimit until
+    // changed; it may be changed at any time from any thread and applies to the operations
+    // that start afterwards.
+    static void setDecompressedSizeLimit(size_t bytes);
+    static size_t decompressedSizeLimit();
 
     // True for at least 3 bytes starting with a zlib header (78 01/5E/9C/DA) or the gzip magic.
     static bool isCompressed(const char* data, size_t size);
@@ -29,12 +36,13 @@ public:
     // Replaces `out` with the inflated bytes of a gzip or zlib stream. A stream cut short
     // gives the bytes inflated so far; an empty input gives an empty result. Corrupt data
     // throws std::runtime_error with zlib's message ("inflate init failed" when zlib cannot
-    // start); output beyond `maxSize` throws std::length_error. `out` is unspecified after
-    // an exception.
+    // start). Output beyond `maxSize` bytes throws std::length_error("Compressor: decompressed
+    // data exceeds the size limit") before more than `maxSize` + 1 bytes are allocated for
+    // it. `out` is unspecified after an exception.
     static void decompress(std::vector<char>& out, const char* data, size_t size,
-                           size_t maxSize = maxDecompressedSize);
+                           size_t maxSize = decompressedSizeLimit());
     static void decompress(std::string& out, const char* data, size_t size,
-                           size_t maxSize = maxDecompressedSize);
+                           size_t maxSize = decompressedSizeLimit());
 };
 
 // Base64 with the standard alphabet ("A-Za-z0-9+/"), "=" padding and no line breaks.

@@ -34,7 +34,8 @@ public:
     virtual bool isLoaded() const { return m_loaded; }
     // Fills a binary object from the shared-memory buffer named by its source. Does nothing
     // when the object is already loaded, has no source or is not binary. The payload may be
-    // compressed or raw. Failures (a missing buffer, corrupt data) throw, and the object stays
+    // compressed or raw. Failures (a missing buffer, corrupt data, a payload larger than
+    // Compressor::decompressedSizeLimit() raw or inflated) throw, and the object stays
     // unloaded.
     virtual void load();
 
@@ -135,6 +136,12 @@ public:
     // With delayed loading, reading a binary object only records its source; the caller
     // calls load().
     void setDelayedLoading(bool delayed) { m_delayedLoading = delayed; }
+    // For the receiving side: when on, readObject removes the shared-memory buffer of a binary
+    // object once it has loaded it, also when the load throws, so that a long-running reader
+    // does not fill shared memory with buffers it has consumed. Off by default: the buffer
+    // stays, as the writer left it. With delayed loading the caller loads, and then removes
+    // the buffer itself: mp::SharedBuffer<char>::remove(object->source()).
+    void setRemoveAfterLoading(bool remove) { m_removeAfterLoading = remove; }
 
     // Writes the envelope. A binary object is encoded (and compressed when compress()) into
     // a new shared-memory buffer named by a new UUID, which stays after the call.
@@ -146,8 +153,11 @@ public:
     void readObject(std::wistream& in) override;
 
 private:
+    void loadObject();
+
     std::shared_ptr<IExchangeObject> m_pObject;
     bool m_delayedLoading = false;
+    bool m_removeAfterLoading = false;
 };
 
 // ---- Status objects: messages, log lines, progress, finished stages, results ---------------

@@ -56,6 +56,11 @@ protected:
 class HRM_API JsonTextIO
 {
 public:
+    // Text nested deeper than this is refused while parsing (the top-level container is at
+    // depth 1), so that the recursive consumers of a parsed document (the writer, copies,
+    // comparisons) never meet more levels than the call stack holds.
+    static constexpr size_t maxNestingDepth = 512;
+
     // Writes `document` at the stream's position, pretty (2-space indent, arrays on one line)
     // or compact. Throws std::runtime_error("Cannot write object into json document") when
     // the document holds a value JSON cannot express (a NaN or infinite number); nothing
@@ -70,6 +75,12 @@ public:
 
     // Parses one JSON text from the rest of `in`. A parse error does not throw: the document
     // keeps RapidJSON's error code and offset (HasParseError, GetParseError, GetErrorOffset).
+    // Text nested deeper than maxNestingDepth is a parse error too: the text is taken to end
+    // just before the first container past the bound, so the error is RapidJSON's for text
+    // cut short there (usually kParseErrorValueInvalid) at that container's offset, unless
+    // the text has a syntax error before it. A number beyond the range of a double, which
+    // RapidJSON's default parse would read as infinity (5e308), is a parse error as well:
+    // kParseErrorNumberTooBig at the number. Parsing itself never recurses.
     static std::wistream& read(std::wistream& in, JsonDocument& document);
 
     // The same operations on a wide string, for callers that already hold the text.

@@ -36,6 +36,9 @@ public:
     // is at depth 1), so that hostile data cannot build a document that recursive consumers
     // cannot walk.
     static constexpr size_t maxNestingDepth = 512;
+    // Members or elements of one container, at most: RapidJSON's growth arithmetic (32-bit)
+    // would wrap round beyond about 2.9 billion. Only a payload of gigabytes comes near it.
+    static constexpr size_t maxContainerSize = size_t(1) << 31;
 
     // Appends the encoding of `value` to `out`. Throws std::invalid_argument("JsonBinaryIO:
     // Unknown number type") for a number of no known kind; `out` then holds a partial value.
@@ -51,10 +54,12 @@ public:
     //   short number or length ("... Failed to read all the number of bytes"), short string
     //   data ("... Failed to read all the bytes of string"); nothing is allocated for a length
     //   the data does not hold; a string or container too large for RapidJSON's 32-bit sizes
-    //   ("... String too long", "... Container too large");
+    //   ("... String too long");
     // - std::invalid_argument: a tag above 10 ("JsonBinaryIO: Unknown value type"), a member
     //   name that is not a string ("JsonBinaryIO: Member name is not a string"), nesting deeper
-    //   than maxNestingDepth ("JsonBinaryIO: Nesting too deep").
+    //   than maxNestingDepth ("JsonBinaryIO: Nesting too deep");
+    // - std::length_error("JsonBinaryIO: Container too large") for a container with more than
+    //   maxContainerSize members or elements.
     static size_t decode(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator);
 
     // Writes the encoding of `value` at the put position in one write.

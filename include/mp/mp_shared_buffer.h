@@ -5,6 +5,7 @@
 #include <hrm_api/hrm_api_export.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,7 +30,9 @@ public:
 
     // Opens the named object for reading and writing. With `removeOnDestroy` the destructor
     // removes the name from the system. An empty name throws "Shared variable name mustn't be
-    // empty".
+    // empty"; a name with a path separator ('/' or '\\'), which could reach beyond the
+    // platform's shared-memory folder, throws "Shared variable name mustn't contain a path
+    // separator".
     SharedBuffer(const std::wstring& name, bool removeOnDestroy, Open open = Open::OrCreate);
     virtual ~SharedBuffer();
 
@@ -42,15 +45,18 @@ public:
 
     // Makes the object exactly `size` bytes long and copies the bytes into it.
     void write(const char* data, size_t size);
-    // Replaces `out` with the object's bytes (empty when the object has size 0).
-    void read(std::vector<char>& out) const;
+    // Replaces `out` with the object's bytes (empty when the object has size 0). An object
+    // larger than `maxSize` bytes throws "Shared buffer is larger than the size limit" before
+    // anything is copied. Where the system lets another process shrink the object meanwhile
+    // (POSIX), the copy then ends early instead of faulting.
+    void read(std::vector<char>& out, size_t maxSize = SIZE_MAX) const;
     // Makes the object 0 bytes long.
     void clear();
 
     const std::wstring& name() const { return m_name; }
 
     // Removes the named object from the system; objects still open stay usable. Returns
-    // whether a name was removed. Never throws.
+    // whether a name was removed (never for a name the constructor refuses). Never throws.
     static bool remove(const std::wstring& name);
 
 private:

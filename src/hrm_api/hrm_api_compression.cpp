@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <limits>
 #include <stdexcept>
 #include <type_traits>
@@ -39,11 +40,16 @@ struct Input
     }
 };
 
+std::atomic<size_t> decompressedSizeLimit{Compressor::defaultDecompressedSizeLimit};
+
 // Points zlib's output at up to `chunk` bytes of `out` after `total`, staying within the
-// vector's capacity while it has any left; returns the room given.
-uInt giveRoom(z_stream& stream, std::vector<char>& out, size_t total, size_t chunk)
+// vector's capacity while it has any left; a full vector grows by at least `chunk` and at
+// least doubles, but never beyond `limit` bytes. Returns the room given.
+uInt giveRoom(z_stream& stream, std::vector<char>& out, size_t total, size_t chunk, size_t limit)
 {
-    const size_t room = out.capacity() > total ? std::min(chunk, out.capacity() - total) : chunk;
+    if (out.capacity() == total)
+        out.reserve(std::min(std::max(2 * total, total + chunk), limit));
+    const size_t room = std::min(chunk, out.capacity() - total);
     out.resize(total + room);
     stream.next_out = reinterpret_cast<Bytef*>(out.data() + total);
     stream.avail_out = zlibCount(room);
@@ -70,7 +76,7 @@ public:
         size_t total = 0;
         out.clear();
         for (;;) {
-            const uInt room = giveRoom(m_stream, out, total, chunk);
+            const uInt room = giveRoom(m_stream, out, total, chunk, std::numeric_limits<size_t>::max());
             input.feed(m_stream);
             const bool last = input.remaining == 0;
             deflate(&m_stream, last ? Z_FINISH : Z_NO_FLUSH);
@@ -102,13 +108,16 @@ public:
     void run(std::vector<char>& out, const char* data, size_t size, size_t maxSize)
     {
         const size_t chunk = 2 * size;
+        // Room for one byte beyond the limit at most (maxSize + 1 without wrapping round):
+        // enough to tell that the limit is passed.
+        const size_t roomLimit = std::max(maxSize, maxSize + 1);
         Input input{data, size};
         size_t total = 0;
         out.clear();
         // One spare byte: the round that completes the stream must leave room unused.
         out.reserve(std::min(expectedSize(data, size), maxSize) + 1);
         for (;;) {
-            const uInt room = giveRoom(m_stream, out, total, chunk);
+            const uInt room = giveRoom(m_stream, out, total, chunk, roomLimit);
             input.feed(m_stream);
             const int result = inflate(&m_stream, input.remaining == 0 ? Z_FINISH : Z_NO_FLUSH);
             // A buffer error with room left is a stream cut short: keep what came out.
@@ -220,6 +229,16 @@ std::pair<size_t, size_t> decodeBase64(void* dest, const Char* src, size_t chars
 }
 
 } // namespace
+
+void Compressor::setDecompressedSizeLimit(size_t bytes)
+{
+    hrm::decompressedSizeLimit = bytes;
+}
+
+size_t Compressor::decompressedSizeLimit()
+{
+    return hrm::decompressedSizeLimit;
+}
 
 bool Compressor::isCompressed(const char* data, size_t size)
 {

@@ -25,9 +25,11 @@ void IExchangeObject::load()
     if (m_loaded || m_source.empty() || !binary())
         return;
 
-    // A missing buffer is an error here; opening it must not leave an empty one behind.
+    // A missing buffer is an error here; opening it must not leave an empty one behind. The
+    // size limit on decompressed data bounds the raw payload as well.
     std::vector<char> bytes;
-    mp::SharedBuffer<char>(m_source, false, mp::SharedBuffer<char>::Open::Existing).read(bytes);
+    mp::SharedBuffer<char>(m_source, false, mp::SharedBuffer<char>::Open::Existing)
+        .read(bytes, Compressor::decompressedSizeLimit());
     if (Compressor::isCompressed(bytes.data(), bytes.size())) {
         std::vector<char> inflated;
         Compressor::decompress(inflated, bytes.data(), bytes.size());
@@ -151,7 +153,22 @@ void ExchangeObjectWrapper::readObject(std::wistream& in)
     }
     m_pObject->setSource(wideString(*data));
     if (!m_delayedLoading)
+        loadObject();
+}
+
+void ExchangeObjectWrapper::loadObject()
+{
+    if (!m_removeAfterLoading || !m_pObject->binary()) {
         m_pObject->load();
+        return;
+    }
+    // The buffer goes whether the load succeeds or throws: a corrupt payload is of no more use.
+    struct Removal
+    {
+        const std::wstring& name;
+        ~Removal() { mp::SharedBuffer<char>::remove(name); }
+    } removal{m_pObject->source()};
+    m_pObject->load();
 }
 
 // ---- Status objects -----------------------------------------------------------------------

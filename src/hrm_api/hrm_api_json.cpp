@@ -4,6 +4,8 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include <algorithm>
+#include <cmath>
 #include <fstream>
 #include <istream>
 #include <ostream>
@@ -33,6 +35,58 @@ void writeText(TextBuffer& buffer, const JsonValue& document, bool pretty)
     }
     if (!written)
         throw std::runtime_error("Cannot write object into json document");
+}
+
+// The offset of the first '[' or '{' that opens a container deeper than the bound, or npos.
+// Brackets inside strings do not count. For text that parses, the count is the real nesting
+// depth; text the count stops early is incomplete at that point, so parsing it fails.
+size_t firstTooDeep(const std::wstring& text, size_t bound)
+{
+    size_t depth = 0;
+    bool inString = false;
+    for (size_t i = 0; i < text.size() && text[i] != L'\0'; ++i) {
+        const wchar_t ch = text[i];
+        if (inString) {
+            if (ch == L'\\')
+                ++i; // the escaped character cannot end the string
+            else if (ch == L'"')
+                inString = false;
+        } else if (ch == L'"') {
+            inString = true;
+        } else if (ch == L'[' || ch == L'{') {
+            if (++depth > bound)
+                return i;
+        } else if ((ch == L']' || ch == L'}') && depth > 0) {
+            --depth;
+        }
+    }
+    return std::wstring::npos;
+}
+
+bool holdsInfinity(const JsonValue& value)
+{
+    if (value.IsArray())
+        return std::any_of(value.Begin(), value.End(), holdsInfinity);
+    if (value.IsObject())
+        return std::any_of(value.MemberBegin(), value.MemberEnd(),
+                           [](const JsonValue::Member& member) { return holdsInfinity(member.value); });
+    return value.IsDouble() && !std::isfinite(value.GetDouble());
+}
+
+// Stops a parse at the first number that it reads as infinite.
+struct FiniteNumbers : rapidjson::BaseReaderHandler<JsonEncoding, FiniteNumbers>
+{
+    bool Double(double number) { return std::isfinite(number); }
+};
+
+// The offset of the first number in `text` that RapidJSON reads as infinite, or npos.
+size_t firstInfiniteNumber(const std::wstring& text)
+{
+    rapidjson::GenericReader<JsonEncoding, JsonEncoding> reader;
+    rapidjson::GenericStringStream<JsonEncoding> stream(text.c_str());
+    FiniteNumbers handler;
+    const rapidjson::ParseResult result = reader.Parse<rapidjson::kParseIterativeFlag>(stream, handler);
+    return result.Code() == rapidjson::kParseErrorTermination ? result.Offset() : std::wstring::npos;
 }
 
 // GenericStringBuffer::GetSize() counts bytes, not characters.
@@ -91,7 +145,19 @@ void JsonTextIO::fromString(const std::wstring& text, JsonDocument& document)
 {
     // Iterative parsing gives the results of the default (recursive) parse without using the
     // call stack for nesting. Like a stream parse, it stops at the first NUL character.
-    document.Parse<rapidjson::kParseIterativeFlag>(text.c_str());
+    constexpr unsigned flags = rapidjson::kParseIterativeFlag;
+    const size_t tooDeep = firstTooDeep(text, maxNestingDepth);
+    if (tooDeep != std::wstring::npos) {
+        document.Parse<flags>(text.substr(0, tooDeep).c_str());
+        return;
+    }
+    document.Parse<flags>(text.c_str());
+    if (!document.HasParseError() && holdsInfinity(document)) {
+        // RapidJSON takes some numbers beyond the range of a double (5e308, 18e307) for
+        // infinity, which JSON cannot express. In their place a number that it refuses as too
+        // big (1e400) gives the document that error, at the same offset.
+        document.Parse<flags>((text.substr(0, firstInfiniteNumber(text)) + L"1e400").c_str());
+    }
 }
 
 #if defined(_WIN32)

@@ -296,7 +296,7 @@ public:
                 m_open.pop_back();
                 continue;
             }
-            if (top.count == std::numeric_limits<rapidjson::SizeType>::max())
+            if (top.count == JsonBinaryIO::maxContainerSize)
                 throw std::length_error("JsonBinaryIO: Container too large");
             ++top.count;
             if (top.object) {

@@ -11,6 +11,11 @@
 #include <cstring>
 #include <utility>
 
+#if !defined(_WIN32)
+#include <cerrno>
+#include <unistd.h>
+#endif
+
 namespace mp {
 namespace ipc = boost::interprocess;
 
@@ -33,8 +38,42 @@ ipc::permissions ownerOnly()
 #if !defined(_WIN32)
     permissions.set_permissions(0600);
 #endif
-    // On Windows the default security descriptor already limits access to the creator.
+    // On Windows the object is a file in Boost's shared folder and takes that folder's access
+    // rules.
     return permissions;
+}
+
+bool hasPathSeparator(const std::wstring& name)
+{
+    return name.find_first_of(L"/\\") != std::wstring::npos;
+}
+
+// Copies `size` bytes of the object into `out`; fewer when the object has shrunk meanwhile.
+void copyOut(const ipc::shared_memory_object& memory, size_t size, std::vector<char>& out)
+{
+#if defined(_WIN32)
+    // Windows does not let a mapped object shrink, so the mapping can be copied as it stands.
+    const ipc::mapped_region region(memory, ipc::read_only, 0, size);
+    const auto* bytes = static_cast<const char*>(region.get_address());
+    out.assign(bytes, bytes + size);
+#else
+    // Read rather than map: a mapping of an object that another process shrinks faults
+    // (SIGBUS) where the pages have gone, while a read just ends there.
+    out.resize(size);
+    size_t done = 0;
+    while (done < size) {
+        const ssize_t count = ::pread(memory.get_mapping_handle().handle, out.data() + done, size - done,
+                                      static_cast<off_t>(done));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            throw SharedMemoryException(L"Shared buffer could not be read");
+        if (count == 0)
+            break;
+        done += static_cast<size_t>(count);
+    }
+    out.resize(done);
+#endif
 }
 
 bool removeObject(const std::string& name)
@@ -75,6 +114,8 @@ SharedBuffer<char>::SharedBuffer(const std::wstring& name, bool removeOnDestroy,
 {
     if (name.empty())
         throw SharedMemoryException(L"Shared variable name mustn't be empty");
+    if (hasPathSeparator(name))
+        throw SharedMemoryException(L"Shared variable name mustn't contain a path separator");
     m_object = translated([&] { return std::make_unique<Object>(hrm::toNarrow(name), open); });
 }
 
@@ -127,7 +168,7 @@ void SharedBuffer<char>::write(const char* data, size_t size)
     });
 }
 
-void SharedBuffer<char>::read(std::vector<char>& out) const
+void SharedBuffer<char>::read(std::vector<char>& out, size_t maxSize) const
 {
     const ipc::shared_memory_object& memory = object().memory;
     translated([&] {
@@ -136,9 +177,9 @@ void SharedBuffer<char>::read(std::vector<char>& out) const
             out.clear();
             return;
         }
-        const ipc::mapped_region region(memory, ipc::read_only);
-        const auto* bytes = static_cast<const char*>(region.get_address());
-        out.assign(bytes, bytes + region.get_size());
+        if (static_cast<uint64_t>(size) > maxSize)
+            throw SharedMemoryException(L"Shared buffer is larger than the size limit");
+        copyOut(memory, static_cast<size_t>(size), out);
     });
 }
 
@@ -150,7 +191,7 @@ void SharedBuffer<char>::clear()
 
 bool SharedBuffer<char>::remove(const std::wstring& name)
 {
-    return !name.empty() && removeObject(hrm::toNarrow(name));
+    return !name.empty() && !hasPathSeparator(name) && removeObject(hrm::toNarrow(name));
 }
 
 } // namespace mp

@@ -1,0 +1,82 @@
+// ExchangeObjectWrapper::readObject on arbitrary text, binary objects loaded from shared
+// memory. An input is the envelope's text (UTF-8), then, after the first NUL byte, the payload
+// that the buffer "hrm_fuzz_payload" holds for this input (no NUL: no buffer). The reader
+// removes every buffer it loads, and the library-wide size limit is 1 MiB. An envelope that
+// reads gives an object whose own envelope reads back to an object with the same JSON.
+
+#include "fuzz_exchange_object.h"
+#include "fuzz_support.h"
+
+#include <hrm_api/hrm_api_compression.h>
+#include <mp/mp_shared_buffer.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <sstream>
+
+using namespace hrm;
+
+namespace {
+
+StaticExchangeObject<fuzz::BinaryObject> prototype;
+
+void removePayload()
+{
+    mp::SharedBuffer<char>::remove(fuzz::payloadBuffer);
+}
+
+std::shared_ptr<IExchangeObject> read(const std::wstring& envelope)
+{
+    ExchangeObjectWrapper wrapper;
+    wrapper.setRemoveAfterLoading(true);
+    std::wistringstream in(envelope);
+    wrapper.readObject(in);
+    return wrapper.get();
+}
+
+std::wstring envelopeOf(const std::shared_ptr<IExchangeObject>& object)
+{
+    ExchangeObjectWrapper wrapper;
+    wrapper.set(object);
+    std::wostringstream out;
+    wrapper.writeObject(out);
+    return out.str();
+}
+
+bool sameJson(const IExchangeObject& a, const IExchangeObject& b)
+{
+    JsonDocument x;
+    JsonDocument y;
+    a.writeObject(x, x.GetAllocator());
+    b.writeObject(y, y.GetAllocator());
+    return fuzz::sameJson(x, y, fuzz::Doubles::Nearly);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    fuzz::discardLogLines();
+    Compressor::setDecompressedSizeLimit(size_t(1) << 20);
+    std::atexit(removePayload);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const auto* bytes = reinterpret_cast<const char*>(data);
+    const auto* end = bytes + size;
+    const auto* separator = std::find(bytes, end, '\0');
+    removePayload();
+    if (separator != end)
+        mp::SharedBuffer<char>(fuzz::payloadBuffer, false).write(separator + 1, static_cast<size_t>(end - separator - 1));
+
+    std::shared_ptr<IExchangeObject> object;
+    if (!fuzz::decodes([&] { object = read(fuzz::wideText(data, static_cast<size_t>(separator - bytes))); }) || !object)
+        return 0;
+    fuzz::check(!object->binary() || object->isLoaded() || object->source().empty(),
+                "a binary object is loaded when it reads");
+    const auto again = read(envelopeOf(object));
+    fuzz::check(again && sameJson(*object, *again), "a written envelope reads back to the same object");
+    return 0;
+}
