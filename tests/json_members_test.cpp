@@ -2,6 +2,7 @@
 #include <hrm_api/hrm_api_json.h>
 
 #include "hrm_api/hrm_api_json_members.h"
+#include "support/read_text.h"
 #include "support/log_capture.h"
 
 #include <gtest/gtest.h>
@@ -12,13 +13,7 @@
 namespace hrm {
 namespace {
 
-JsonDocument parse(const std::wstring& text)
-{
-    JsonDocument document;
-    JsonTextIO::fromString(text, document);
-    EXPECT_FALSE(document.HasParseError()) << "offset " << document.GetErrorOffset();
-    return document;
-}
+using test::parse;
 
 TEST(JsonMembers, StringsEnumerationsAndBooleansReadOnlyTheirKind)
 {

@@ -1,5 +1,6 @@
 #include <hrm_api/hrm_api_json.h>
 
+#include "support/read_text.h"
 #include "support/temp_dir.h"
 
 #include <gtest/gtest.h>
@@ -19,13 +20,7 @@
 namespace hrm {
 namespace {
 
-JsonDocument parse(const std::wstring& text)
-{
-    JsonDocument document;
-    JsonTextIO::fromString(text, document);
-    EXPECT_FALSE(document.HasParseError()) << "offset " << document.GetErrorOffset();
-    return document;
-}
+using test::parse;
 
 std::wstring write(const JsonValue& document, bool pretty)
 {

@@ -23,13 +23,7 @@ using test::LogCapture;
 using test::toText;
 using Messages = std::vector<std::string>;
 
-JsonDocument parse(const std::wstring& text)
-{
-    JsonDocument document;
-    JsonTextIO::fromString(text, document);
-    EXPECT_FALSE(document.HasParseError()) << "offset " << document.GetErrorOffset();
-    return document;
-}
+using test::parse;
 
 std::shared_ptr<IFormatOptions> readOptions(const std::wstring& text)
 {
