@@ -171,7 +171,7 @@ TEST(Command, MalformedDocuments)
     for (const auto& [text, message] : cases) {
         Command command;
         SCOPED_TRACE(toNarrow(text));
-        expectMessage<std::invalid_argument>([&] { read(command, text); }, message);
+        expectMessage<std::invalid_argument>([&, text = text] { read(command, text); }, message);
     }
 }
 

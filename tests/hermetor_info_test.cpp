@@ -105,7 +105,7 @@ TEST(HermetorInfo, ElementsThatAreNoObjectsRejectTheDocument)
     };
     HermetorInfo info;
     for (const auto& [text, message] : cases)
-        test::expectMessage<std::invalid_argument>([&] { read(info, text); }, message);
+        test::expectMessage<std::invalid_argument>([&, text = text] { read(info, text); }, message);
     read(info, LR"({"thirdparty_cores":{},"import_formats":"STEP"})");
 }
 
