@@ -218,8 +218,8 @@ TEST(ExchangeObject, DecodingAPayloadKeepsToTheMemoryBudget)
 TEST(ExchangeObjectWrapper, SharedMemoryIsForTheOwnerOnly)
 {
 #if !defined(__linux__)
-    GTEST_SKIP() << "checked where shared memory lives in /dev/shm; on Windows the object is a file in "
-                    "Boost's shared folder and takes that folder's access rules";
+    GTEST_SKIP() << "checked where shared memory lives in /dev/shm; on Windows "
+                    "SharedBuffer.OnWindowsOnlyTheOwnerHasAccess reads the security descriptor back";
 #else
     const std::wstring source = sourceOf(envelopeOf(test::filledBinaryObject(true)));
     const Buffer cleanup(source, true, Buffer::Open::Existing);

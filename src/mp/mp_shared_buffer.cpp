@@ -164,7 +164,7 @@ private:
 };
 
 // Whether the file behind `handle` is a regular file owned by this user whose access list lets
-// nobody else in.
+// nobody else in (but the system itself, which may do anything anyway).
 bool isOwnPrivateObject(NativeHandle handle)
 {
     BY_HANDLE_FILE_INFORMATION info{};
@@ -181,9 +181,11 @@ bool isOwnPrivateObject(NativeHandle handle)
     bool own = owner && dacl && EqualSid(owner, user.get());
     for (DWORD i = 0; own && i < dacl->AceCount; ++i) {
         void* entry = nullptr;
-        own = GetAce(dacl, i, &entry) &&
-              (static_cast<ACE_HEADER*>(entry)->AceType != ACCESS_ALLOWED_ACE_TYPE ||
-               EqualSid(&static_cast<ACCESS_ALLOWED_ACE*>(entry)->SidStart, user.get()));
+        own = GetAce(dacl, i, &entry);
+        if (own && static_cast<ACE_HEADER*>(entry)->AceType == ACCESS_ALLOWED_ACE_TYPE) {
+            PSID allowed = &static_cast<ACCESS_ALLOWED_ACE*>(entry)->SidStart;
+            own = EqualSid(allowed, user.get()) || IsWellKnownSid(allowed, WinLocalSystemSid);
+        }
     }
     LocalFree(descriptor);
     return own;
