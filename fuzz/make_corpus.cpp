@@ -240,7 +240,7 @@ void envelopes()
     for (char& ch : upper)
         ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
     const std::string uuid = toNarrow(fuzz::payloadBuffer);
-    const std::pair<const char*, std::string> names[] = {
+    const std::pair<const char*, std::string> bufferNames[] = {
         {"upper", upper},
         {"nul", "victim\\u0000" + uuid},
         {"surrogate", uuid.substr(0, 35) + "\\ud800"},
@@ -251,7 +251,7 @@ void envelopes()
         {"fullwidth_solidus", ".." + toNarrow(L"\uFF0F") + uuid.substr(2)},
         {"blank", uuid + " "},
     };
-    for (const auto& [file, name] : names) {
+    for (const auto& [file, name] : bufferNames) {
         const std::string named = "{\"exchange_object_name\":\"fuzz_binary_object\",\"binary\":true,"
                                   "\"exchange_object_data\":\"" + name + "\"}";
         save("envelope", std::string("name_") + file + ".bin", named + '\0' + bytesOf(gzip));
