@@ -327,6 +327,13 @@ TEST(ExchangeObjectWrapper, RemovesOnlyAnObjectOfThisUserThatOthersCannotOpen)
     GTEST_SKIP() << "sets POSIX modes and owners on the objects in /dev/shm";
 #else
     const std::vector<char> payload = payloadOf(test::filledBinaryObject(true));
+    const auto readEnvelope = [](const std::wstring& text) {
+        ExchangeObjectWrapper reader;
+        reader.setRemoveAfterLoading(true);
+        std::wistringstream in(text);
+        reader.readObject(in);
+        return reader.get();
+    };
     const auto planted = [&](mode_t mode, uid_t owner) {
         const std::wstring name = IExchangeObject::generateUUID();
         Buffer(name, false).write(payload.data(), payload.size());
