@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <cwchar>
 #include <fstream>
 #include <istream>
 #include <ostream>
@@ -124,11 +123,12 @@ public:
     {
         const size_t start = m_stream.Tell();
         size_t end = start;
-        while (m_text[end] != 0 && std::wcschr(L"0123456789+-.eE", m_text[end]) != nullptr)
+        while (isNumberCharacter(m_text[end]))
             ++end;
         if (end == start)
             return m_document.Double(approximation); // not where the number was expected
-        m_number.assign(m_text + start, m_text + end); // ASCII
+        m_number.resize(end - start); // ASCII, copied in place: no allocation once the string has room
+        std::transform(m_text + start, m_text + end, m_number.begin(), [](wchar_t ch) { return static_cast<char>(ch); });
         double number = 0;
         if (std::from_chars(m_number.data(), m_number.data() + m_number.size(), number).ec == std::errc())
             return m_document.Double(number);
@@ -153,6 +153,11 @@ public:
     bool EndArray(SizeType elements) { return m_document.EndArray(elements); }
 
 private:
+    static bool isNumberCharacter(wchar_t ch)
+    {
+        return (ch >= L'0' && ch <= L'9') || ch == L'.' || ch == L'e' || ch == L'E' || ch == L'-' || ch == L'+';
+    }
+
     JsonDocument& m_document;
     const wchar_t* const m_text;
     const TextStream& m_stream;
