@@ -210,6 +210,19 @@ void TextParse(benchmark::State& state)
     countBinaryBytes(state);
 }
 
+// The library's own text reader on the same text: nesting bound, exact doubles.
+void TextRead(benchmark::State& state)
+{
+    for (auto _ : state) {
+        JsonDocument document;
+        hrm::JsonTextIO::fromString(data().text, document);
+        if (document.HasParseError())
+            throw std::runtime_error("text read failed");
+        benchmark::DoNotOptimize(&document);
+    }
+    countBinaryBytes(state);
+}
+
 void Compress(benchmark::State& state)
 {
     const auto& binary = data().binary;
@@ -319,6 +332,7 @@ BENCHMARK(TextWrite)->Unit(benchmark::kMillisecond);
 BENCHMARK(BinaryDecode)->Unit(benchmark::kMillisecond);
 BENCHMARK(TextParse<rapidjson::kParseDefaultFlags>)->Name("TextParse")->Unit(benchmark::kMillisecond);
 BENCHMARK(TextParse<rapidjson::kParseIterativeFlag>)->Name("TextParseIterative")->Unit(benchmark::kMillisecond);
+BENCHMARK(TextRead)->Unit(benchmark::kMillisecond);
 BENCHMARK(StreamWrite)->Unit(benchmark::kMillisecond);
 BENCHMARK(StreamRead)->Unit(benchmark::kMillisecond);
 BENCHMARK(Compress)->Unit(benchmark::kMillisecond);

@@ -1,8 +1,9 @@
 // ExchangeObjectWrapper::readObject on arbitrary text, binary objects loaded from shared
 // memory. An input is the envelope's text (UTF-8), then, after the first NUL byte, the payload
-// that the buffer "hrm_fuzz_payload" holds for this input (no NUL: no buffer). The reader
-// removes every buffer it loads, and the library-wide size limit is 1 MiB. An envelope that
-// reads gives an object whose own envelope reads back to an object with the same JSON.
+// that the buffer fuzz::payloadBuffer holds for this input (no NUL: no buffer). The reader
+// removes the buffers it loads (its default), and the library-wide size limit is 1 MiB. An
+// envelope that reads gives an object whose own envelope reads back to an object with the same
+// JSON, and the buffer written for that is gone once read.
 
 #include "fuzz_exchange_object.h"
 #include "fuzz_support.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <sstream>
+#include <utility>
 
 using namespace hrm;
 
@@ -28,19 +30,19 @@ void removePayload()
 std::shared_ptr<IExchangeObject> read(const std::wstring& envelope)
 {
     ExchangeObjectWrapper wrapper;
-    wrapper.setRemoveAfterLoading(true);
     std::wistringstream in(envelope);
     wrapper.readObject(in);
     return wrapper.get();
 }
 
-std::wstring envelopeOf(const std::shared_ptr<IExchangeObject>& object)
+// The envelope of `object`, and the buffer written for it (empty for an inline object).
+std::pair<std::wstring, std::wstring> envelopeOf(const std::shared_ptr<IExchangeObject>& object)
 {
     ExchangeObjectWrapper wrapper;
     wrapper.set(object);
     std::wostringstream out;
     wrapper.writeObject(out);
-    return out.str();
+    return {out.str(), wrapper.createdBuffer()};
 }
 
 bool sameJson(const IExchangeObject& a, const IExchangeObject& b)
@@ -49,7 +51,7 @@ bool sameJson(const IExchangeObject& a, const IExchangeObject& b)
     JsonDocument y;
     a.writeObject(x, x.GetAllocator());
     b.writeObject(y, y.GetAllocator());
-    return fuzz::sameJson(x, y, fuzz::Doubles::Nearly);
+    return fuzz::sameJson(x, y);
 }
 
 } // namespace
@@ -76,7 +78,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         return 0;
     fuzz::check(!object->binary() || object->isLoaded() || object->source().empty(),
                 "a binary object is loaded when it reads");
-    const auto again = read(envelopeOf(object));
+    const auto [envelope, buffer] = envelopeOf(object);
+    const auto again = read(envelope);
     fuzz::check(again && sameJson(*object, *again), "a written envelope reads back to the same object");
+    fuzz::check(buffer.empty() || !mp::SharedBuffer<char>::remove(buffer), "the reader removes the buffer it loads");
     return 0;
 }

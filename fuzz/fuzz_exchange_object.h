@@ -64,7 +64,8 @@ public:
     std::vector<int32_t> indices;
 };
 
-// The name of the shared-memory buffer that holds the payload of an envelope input.
-inline const std::wstring payloadBuffer = L"hrm_fuzz_payload";
+// The name of the shared-memory buffer that holds the payload of an envelope input: a name of
+// the form writers make, as readers load no other.
+inline const std::wstring payloadBuffer = L"0f0f0f0f-f022-4e0f-8f0f-00000000f022";
 
 } // namespace hrm::fuzz

@@ -7,7 +7,6 @@
 #include <logging/ax_herm_logger.h>
 #include <mp/mp_exception.h>
 
-#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -53,30 +52,8 @@ inline std::wstring wideText(const uint8_t* data, size_t size)
     return toWide(std::string(reinterpret_cast<const char*>(data), size));
 }
 
-// Doubles with the same bits, or that differ by a few units in the last place: RapidJSON's
-// default parse, which the text reader uses, is not exactly rounded, so a double written as
-// text can come back a little different.
-inline bool nearlyEqual(double a, double b)
-{
-    int64_t x = 0;
-    int64_t y = 0;
-    std::memcpy(&x, &a, sizeof x);
-    std::memcpy(&y, &b, sizeof y);
-    if (x == y || a == b)
-        return true;
-    if (std::signbit(a) != std::signbit(b) || std::isnan(a) || std::isnan(b))
-        return false;
-    return (x > y ? x - y : y - x) <= 4;
-}
-
-enum class Doubles
-{
-    Exact,  // bit for bit
-    Nearly, // nearlyEqual
-};
-
-// Same types, same number kinds, same values, members in the same order.
-inline bool sameJson(const JsonValue& a, const JsonValue& b, Doubles doubles)
+// Same types, same number kinds, same values (doubles bit for bit), members in the same order.
+inline bool sameJson(const JsonValue& a, const JsonValue& b)
 {
     if (a.GetType() != b.GetType())
         return false;
@@ -85,7 +62,7 @@ inline bool sameJson(const JsonValue& a, const JsonValue& b, Doubles doubles)
         if (a.MemberCount() != b.MemberCount())
             return false;
         for (auto x = a.MemberBegin(), y = b.MemberBegin(); x != a.MemberEnd(); ++x, ++y) {
-            if (!sameJson(x->name, y->name, doubles) || !sameJson(x->value, y->value, doubles))
+            if (!sameJson(x->name, y->name) || !sameJson(x->value, y->value))
                 return false;
         }
         return true;
@@ -94,7 +71,7 @@ inline bool sameJson(const JsonValue& a, const JsonValue& b, Doubles doubles)
         if (a.Size() != b.Size())
             return false;
         for (rapidjson::SizeType i = 0; i < a.Size(); ++i) {
-            if (!sameJson(a[i], b[i], doubles))
+            if (!sameJson(a[i], b[i]))
                 return false;
         }
         return true;
@@ -110,21 +87,21 @@ inline bool sameJson(const JsonValue& a, const JsonValue& b, Doubles doubles)
             return a.IsUint64() ? a.GetUint64() == b.GetUint64() : a.GetInt64() == b.GetInt64();
         const double x = a.GetDouble();
         const double y = b.GetDouble();
-        return doubles == Doubles::Nearly ? nearlyEqual(x, y) : std::memcmp(&x, &y, sizeof x) == 0;
+        return std::memcmp(&x, &y, sizeof x) == 0;
     }
     default:
         return true;
     }
 }
 
-// Two texts that parse to the same JSON (doubles nearly equal).
+// Two texts that parse to the same JSON.
 inline bool sameJsonText(const std::wstring& a, const std::wstring& b)
 {
     JsonDocument x;
     JsonDocument y;
     JsonTextIO::fromString(a, x);
     JsonTextIO::fromString(b, y);
-    return !x.HasParseError() && !y.HasParseError() && sameJson(x, y, Doubles::Nearly);
+    return !x.HasParseError() && !y.HasParseError() && sameJson(x, y);
 }
 
 // Formats every log line at every level, so that the logging of hostile values runs too, and

@@ -13,6 +13,7 @@
 #include <hrm_api/hrm_api_hermetor_info.h>
 #include <hrm_api/hrm_api_json_binary.h>
 
+#include <cctype>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -231,6 +232,37 @@ void envelopes()
                                  "\"exchange_object_data\":\"" + toNarrow(fuzz::payloadBuffer) + "\"}";
     save("envelope", "binary_gzip.bin", envelope + '\0' + bytesOf(gzip));
     save("envelope", "binary_raw.bin", envelope + '\0' + bytesOf(raw));
+
+    // Buffer names a reader must neither load nor remove, each beside a payload that the
+    // buffer of the right name holds: capitals, a NUL, a lone surrogate, a path, a device, a
+    // semaphore, a hidden object, look-alikes of separators, a trailing blank.
+    std::string upper = toNarrow(fuzz::payloadBuffer);
+    for (char& ch : upper)
+        ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+    const std::string uuid = toNarrow(fuzz::payloadBuffer);
+    const std::pair<const char*, std::string> bufferNames[] = {
+        {"upper", upper},
+        {"nul", "victim\\u0000" + uuid},
+        {"surrogate", uuid.substr(0, 35) + "\\ud800"},
+        {"path", "../" + uuid.substr(3)},
+        {"device", "NUL"},
+        {"semaphore", "sem." + uuid.substr(4)},
+        {"hidden", "." + uuid.substr(1)},
+        {"fullwidth_solidus", ".." + toNarrow(L"\uFF0F") + uuid.substr(2)},
+        {"blank", uuid + " "},
+    };
+    for (const auto& [file, name] : bufferNames) {
+        const std::string named = "{\"exchange_object_name\":\"fuzz_binary_object\",\"binary\":true,"
+                                  "\"exchange_object_data\":\"" + name + "\"}";
+        save("envelope", std::string("name_") + file + ".bin", named + '\0' + bytesOf(gzip));
+    }
+    // The unknown type and the inline type announced as binary: their buffers go unread.
+    save("envelope", "unknown_type.bin",
+         "{\"exchange_object_name\":\"no_such_type\",\"binary\":true,\"exchange_object_data\":\"" + uuid + "\"}" +
+             '\0' + bytesOf(gzip));
+    save("envelope", "inline_type_binary.bin",
+         "{\"exchange_object_name\":\"exc_message\",\"binary\":true,\"exchange_object_data\":\"" + uuid + "\"}" +
+             '\0' + bytesOf(gzip));
 }
 
 void results()

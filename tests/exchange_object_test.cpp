@@ -9,11 +9,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cwctype>
+#include <iterator>
 #include <regex>
 #include <sstream>
+#include <streambuf>
 
 #if defined(__linux__)
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 namespace hrm {
@@ -97,9 +101,10 @@ TEST(ExchangeObjectWrapper, InlineEnvelopesAndTheirFaults)
                   "ExchangeObjectWrapper JSON object has no Exchange Object data.",
                   "ExchangeObjectWrapper JSON object should have UUID in Exchange Object Data field (if binary)."}));
     // "binary" for a class that is not binary: the source is recorded and load() does nothing.
-    const auto announced = readEnvelope(
-        LR"({"exchange_object_name":"exc_message","binary":true,"exchange_object_data":"no-such-buffer"})");
-    EXPECT_EQ(announced->source(), L"no-such-buffer");
+    const std::wstring uuid = IExchangeObject::generateUUID();
+    const auto announced =
+        readEnvelope(LR"({"exchange_object_name":"exc_message","binary":true,"exchange_object_data":")" + uuid + L"\"}");
+    EXPECT_EQ(announced->source(), uuid);
     EXPECT_FALSE(announced->isLoaded());
 
     for (const wchar_t* text : {L"", L"[1]", L"{\"exchange_object_name\":", L"\"exc_message\""})
@@ -140,7 +145,7 @@ TEST(ExchangeObjectWrapper, DelayedLoading)
     object->load();
     EXPECT_TRUE(object->isLoaded());
     EXPECT_EQ(*object, *test::filledBinaryObject(true));
-    EXPECT_TRUE(Buffer::remove(object->source()));
+    EXPECT_FALSE(Buffer::remove(object->source())); // the announced object removed it as it loaded
     EXPECT_NO_THROW(object->load()); // loaded once: the buffer is not looked at again
 }
 
@@ -186,11 +191,35 @@ TEST(ExchangeObject, PayloadsAreHeldToTheLibrarySizeLimit)
     EXPECT_NO_THROW(load(raw));
 }
 
+TEST(ExchangeObject, DecodingAPayloadKeepsToTheMemoryBudget)
+{
+    // Four million nulls compress to a few kilobytes and would take 160 MiB decoded.
+    std::vector<char> nulls{'\x04'};
+    const uint64_t count = uint64_t(4) << 20;
+    for (int k = 0; k < 8; ++k)
+        nulls.push_back(static_cast<char>(count >> (8 * k)));
+    nulls.resize(nulls.size() + count, '\0');
+    std::vector<char> gzip;
+    Compressor::compress(gzip, nulls.data(), nulls.size(), 9);
+    ASSERT_LT(gzip.size(), size_t(8) << 10);
+    const std::wstring name = IExchangeObject::generateUUID();
+    Buffer bomb(name, true);
+    bomb.write(gzip.data(), gzip.size());
+
+    const test::MemoryBudget budget(size_t(64) << 20);
+    BinaryObject object;
+    object.setSource(name);
+    test::expectMessage<std::length_error>([&] { object.load(); }, "JsonBinaryIO: Memory budget exceeded");
+    EXPECT_FALSE(object.isLoaded());
+    const auto real = std::static_pointer_cast<BinaryObject>(readEnvelope(envelopeOf(test::filledBinaryObject(true))));
+    EXPECT_TRUE(real->isLoaded());
+}
+
 TEST(ExchangeObjectWrapper, SharedMemoryIsForTheOwnerOnly)
 {
 #if !defined(__linux__)
-    GTEST_SKIP() << "checked where shared memory lives in /dev/shm; on Windows the object is a file in "
-                    "Boost's shared folder and takes that folder's access rules";
+    GTEST_SKIP() << "checked where shared memory lives in /dev/shm; on Windows "
+                    "SharedBuffer.OnWindowsOnlyTheOwnerHasAccess reads the security descriptor back";
 #else
     const std::wstring source = sourceOf(envelopeOf(test::filledBinaryObject(true)));
     const Buffer cleanup(source, true, Buffer::Open::Existing);
@@ -200,10 +229,9 @@ TEST(ExchangeObjectWrapper, SharedMemoryIsForTheOwnerOnly)
 #endif
 }
 
-TEST(ExchangeObjectWrapper, RemoveAfterLoadingLeavesNothingBehind)
+TEST(ExchangeObjectWrapper, TheReaderRemovesWhatItLoadsOrWillNotLoad)
 {
-    ExchangeObjectWrapper reader;
-    reader.setRemoveAfterLoading(true);
+    ExchangeObjectWrapper reader; // default settings
     const auto read = [&](const std::wstring& envelope) {
         std::wistringstream in(envelope);
         reader.readObject(in);
@@ -216,16 +244,159 @@ TEST(ExchangeObjectWrapper, RemoveAfterLoadingLeavesNothingBehind)
         ASSERT_FALSE(Buffer::remove(sourceOf(envelope))) << "left behind after round trip " << i;
     }
 
-    // A corrupt payload goes too; the buffer named by an object that is not binary stays.
-    const std::wstring corrupt = IExchangeObject::generateUUID();
-    Buffer(corrupt, false).write("\x1f\x8b\x08garbage", 10);
-    EXPECT_ANY_THROW(read(LR"({"exchange_object_name":"test_binary_object","binary":true,"exchange_object_data":")"
-                          + corrupt + L"\"}"));
+    // Announced buffers that this reader will not load go at once: a corrupt payload, a type
+    // it does not know, "binary" for a type that travels inline.
+    const auto announce = [](const wchar_t* type, const std::wstring& buffer) {
+        return LR"({"exchange_object_name":")" + std::wstring(type) + LR"(","binary":true,"exchange_object_data":")" +
+               buffer + L"\"}";
+    };
+    const auto written = [](const std::string& bytes) {
+        const std::wstring name = IExchangeObject::generateUUID();
+        Buffer(name, false).write(bytes.data(), bytes.size());
+        return name;
+    };
+    const std::wstring corrupt = written(std::string("\x1f\x8b\x08garbage", 10));
+    EXPECT_ANY_THROW(read(announce(L"test_binary_object", corrupt)));
     EXPECT_FALSE(Buffer::remove(corrupt));
-    const std::wstring other = IExchangeObject::generateUUID();
-    const Buffer kept(other, true);
-    read(LR"({"exchange_object_name":"exc_message","binary":true,"exchange_object_data":")" + other + L"\"}");
-    EXPECT_NO_THROW(Buffer(other, false, Buffer::Open::Existing));
+    for (const wchar_t* type : {L"no_such_type", L"exc_message"}) {
+        const std::wstring unused = written("payload");
+        read(announce(type, unused));
+        EXPECT_FALSE(Buffer::remove(unused)) << toNarrow(type);
+    }
+
+    // A host that forwards envelopes to a second reader keeps them all.
+    reader.setRemoveAfterLoading(false);
+    const std::wstring forwarded = envelopeOf(object);
+    read(forwarded);
+    EXPECT_TRUE(reader.get()->isLoaded());
+    const std::wstring inline_ = written("payload");
+    read(announce(L"exc_message", inline_));
+    EXPECT_TRUE(Buffer::remove(sourceOf(forwarded)));
+    EXPECT_TRUE(Buffer::remove(inline_));
+}
+
+// A payload as the writer leaves it, put under a name of the test's choosing.
+std::vector<char> payloadOf(const std::shared_ptr<IExchangeObject>& object)
+{
+    const Buffer written(sourceOf(envelopeOf(object)), true, Buffer::Open::Existing);
+    std::vector<char> bytes;
+    written.read(bytes);
+    return bytes;
+}
+
+std::wstring announce(const std::wstring& jsonName)
+{
+    return LR"({"exchange_object_name":"test_binary_object","binary":true,"exchange_object_data":")" + jsonName + L"\"}";
+}
+
+TEST(ExchangeObjectWrapper, OnlyBufferNamesOfTheWritersFormAreLoadedOrRemoved)
+{
+    const std::vector<char> payload = payloadOf(test::filledBinaryObject(true));
+    // Another program's object, of this user; and a UUID in capitals, which Windows takes for
+    // the same object as in small letters.
+    const std::wstring victim = L"hrm_test_victim_" + IExchangeObject::generateUUID().substr(0, 8);
+    std::wstring capitals = IExchangeObject::generateUUID();
+    for (wchar_t& ch : capitals)
+        ch = static_cast<wchar_t>(std::towupper(ch));
+    Buffer kept(victim, true), keptToo(capitals, true);
+    kept.write(payload.data(), payload.size());
+    keptToo.write(payload.data(), payload.size());
+
+    test::LogCapture log;
+    const std::wstring uuid = IExchangeObject::generateUUID();
+    // As JSON text: a NUL, a letter beyond hexadecimal, a lone surrogate, a blank, a semaphore,
+    // a hidden object, a path.
+    const std::wstring names[] = {victim, capitals, victim + L"\\u0000" + uuid, uuid.substr(0, 35) + L"\\u00e9",
+                                  uuid.substr(0, 35) + std::wstring(1, static_cast<wchar_t>(0xD800)), uuid + L" ",
+                                  L"sem." + uuid.substr(4), L"." + uuid.substr(1), L"../" + uuid.substr(3)};
+    for (const std::wstring& name : names) {
+        const auto object = readEnvelope(announce(name));
+        EXPECT_FALSE(object->isLoaded()) << toNarrow(name);
+        EXPECT_TRUE(object->source().empty()) << toNarrow(name);
+    }
+    EXPECT_EQ(log.messages(ax_herm::Error),
+              std::vector<std::string>(std::size(names), "ExchangeObjectWrapper JSON object should have UUID in "
+                                                         "Exchange Object Data field (if binary)."));
+    for (const std::wstring& name : {victim, capitals})
+        EXPECT_NO_THROW(Buffer(name, false, Buffer::Open::Existing)) << toNarrow(name);
+}
+
+TEST(ExchangeObjectWrapper, RemovesOnlyAnObjectOfThisUserThatOthersCannotOpen)
+{
+#if !defined(__linux__)
+    GTEST_SKIP() << "sets POSIX modes and owners on the objects in /dev/shm";
+#else
+    const std::vector<char> payload = payloadOf(test::filledBinaryObject(true));
+    const auto readEnvelope = [](const std::wstring& text) {
+        ExchangeObjectWrapper reader;
+        reader.setRemoveAfterLoading(true);
+        std::wistringstream in(text);
+        reader.readObject(in);
+        return reader.get();
+    };
+    const auto planted = [&](mode_t mode, uid_t owner) {
+        const std::wstring name = IExchangeObject::generateUUID();
+        Buffer(name, false).write(payload.data(), payload.size());
+        const std::string path = "/dev/shm/" + toNarrow(name);
+        EXPECT_EQ(chmod(path.c_str(), mode), 0);
+        if (owner != geteuid()) {
+            EXPECT_EQ(chown(path.c_str(), owner, static_cast<gid_t>(-1)), 0);
+        }
+        return name;
+    };
+    // Readable by others: loaded, and left.
+    const std::wstring open = planted(0644, geteuid());
+    EXPECT_TRUE(readEnvelope(announce(open))->isLoaded());
+    EXPECT_TRUE(Buffer::remove(open));
+    if (geteuid() == 0) {
+        // Another user's, which root can read: loaded, and left.
+        const std::wstring foreign = planted(0600, 65534);
+        EXPECT_TRUE(readEnvelope(announce(foreign))->isLoaded());
+        EXPECT_TRUE(Buffer::remove(foreign));
+    } else {
+        // One this reader cannot open for writing: not loaded, and left.
+        const std::wstring readOnly = planted(0400, geteuid());
+        EXPECT_THROW(readEnvelope(announce(readOnly)), mp::SharedMemoryException);
+        EXPECT_TRUE(Buffer::remove(readOnly));
+    }
+#endif
+}
+
+TEST(ExchangeObjectWrapper, AWriteThatFailsThrowsAndLeavesNoBuffer)
+{
+    ExchangeObjectWrapper writer;
+    writer.set(test::filledBinaryObject(true));
+    std::wostringstream good;
+    writer.writeObject(good);
+    EXPECT_EQ(writer.createdBuffer(), sourceOf(good.str())); // for the writer to remove if undelivered
+    EXPECT_TRUE(Buffer::remove(writer.createdBuffer()));
+
+    // A stream that has failed already: nothing is made. One that fails while the envelope
+    // goes out (it keeps what it was given, so that the buffer's name is known): the buffer
+    // made for it is removed again.
+    struct Failing : std::wstreambuf
+    {
+        std::wstring given;
+        std::streamsize xsputn(const wchar_t* text, std::streamsize count) override
+        {
+            given.append(text, static_cast<size_t>(count));
+            return 0;
+        }
+    } failing;
+    std::wostream failed(&failing);
+    failed.setstate(std::ios::badbit);
+    test::expectMessage<std::runtime_error>([&] { writer.writeObject(failed); }, "Cannot write object into json document");
+    EXPECT_TRUE(failing.given.empty());
+    std::wostream failingLater(&failing);
+    test::expectMessage<std::runtime_error>([&] { writer.writeObject(failingLater); },
+                                            "Cannot write object into json document");
+    ASSERT_FALSE(sourceOf(failing.given).empty());
+    EXPECT_FALSE(Buffer::remove(sourceOf(failing.given)));
+    EXPECT_TRUE(writer.createdBuffer().empty());
+
+    writer.set(std::make_shared<ExcMessage>(L"inline"));
+    std::wostream inlineFailing(&failing);
+    EXPECT_THROW(writer.writeObject(inlineFailing), std::runtime_error);
 }
 
 } // namespace

@@ -237,6 +237,48 @@ TEST(JsonBinaryIO, NestingIsBounded)
     expectFailure<std::invalid_argument>(objects, "JsonBinaryIO: Nesting too deep");
 }
 
+// An array of `count` nulls, a byte each.
+Bytes nulls(size_t count)
+{
+    Bytes data = head(4, count);
+    data.resize(data.size() + count, '\0');
+    return data;
+}
+
+TEST(JsonBinaryIO, DecodingKeepsToAMemoryBudget)
+{
+    const auto decodes = [](const Bytes& data, size_t budget) {
+        JsonDocument document;
+        try {
+            JsonBinaryIO::decode(data.data(), data.size(), document, document.GetAllocator(), budget);
+            return true;
+        } catch (const std::length_error& error) {
+            EXPECT_STREQ(error.what(), "JsonBinaryIO: Memory budget exceeded");
+            return false;
+        }
+    };
+    // A null costs the peer a byte, and the reader a value in its array and one on the
+    // builder's stack, which grows by half when full: 40 bytes.
+    const size_t count = size_t(1) << 20;
+    EXPECT_FALSE(decodes(nulls(count), 36 * count));
+    EXPECT_TRUE(decodes(nulls(count), 44 * count));
+    // A string costs its characters.
+    Bytes text = head(5, count);
+    text.resize(text.size() + 2 * count, 'a');
+    EXPECT_FALSE(decodes(text, count * sizeof(wchar_t)));
+    EXPECT_TRUE(decodes(text, count * sizeof(wchar_t) + 1024));
+
+    // Without a budget of its own, decoding keeps to the library's, the stream form too.
+    EXPECT_EQ(JsonBinaryIO::memoryBudget(), size_t(1) << 30);
+    JsonBinaryIO::setMemoryBudget(36 * count);
+    JsonDocument document;
+    const Bytes data = nulls(count);
+    EXPECT_THROW(JsonBinaryIO::decode(data.data(), data.size(), document, document.GetAllocator()), std::length_error);
+    std::istringstream stream(std::string(data.begin(), data.end()));
+    EXPECT_THROW(JsonBinaryIO::read(stream, document, document.GetAllocator()), std::length_error);
+    JsonBinaryIO::setMemoryBudget(JsonBinaryIO::defaultMemoryBudget);
+}
+
 TEST(JsonBinaryIO, StreamFormsMatchTheBufferForms)
 {
     JsonDocument first;

@@ -7,10 +7,12 @@
 
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <limits>
+#include <random>
 #include <sstream>
 
 #if defined(_WIN32)
@@ -98,6 +100,51 @@ TEST(JsonTextIO, ParseErrorsAreLeftInTheDocument)
     ASSERT_FALSE(document.HasParseError());
     EXPECT_TRUE(document[L"k"][0].IsDouble());
     EXPECT_EQ(write(document, false), write(parse(L"{\"k\":[1.5,\"\U0001F600\"]}"), false));
+}
+
+TEST(JsonTextIO, ANulAfterTheValueIsNotWhiteSpace)
+{
+    using namespace std::string_literals;
+    for (const auto& [text, offset] : {std::pair(L"{\"code\":\"ok\"}\0{not json"s, 13u), std::pair(L"123\0garbage ]]]"s, 3u),
+                                       std::pair(L"[1] \0"s, 4u), std::pair(L"[1]\0[[[[[[[[[[[[[[[[[["s, 3u)}) {
+        JsonDocument document;
+        std::wistringstream in(text);
+        JsonTextIO::read(in, document);
+        EXPECT_EQ(document.GetParseError(), rapidjson::kParseErrorDocumentRootNotSingular) << offset;
+        EXPECT_EQ(document.GetErrorOffset(), offset);
+    }
+    // A NUL inside the value or before it stays an error of its own.
+    for (const std::wstring& text : {L"[1,\0]"s, L"\0{}"s, L"\"a\0\""s}) {
+        JsonDocument document;
+        JsonTextIO::fromString(text, document);
+        EXPECT_TRUE(document.HasParseError());
+    }
+}
+
+TEST(JsonTextIO, EveryFiniteDoubleReadsBackWithTheSameBits)
+{
+    std::mt19937_64 random(20240610);
+    size_t changed = 0;
+    std::wstring first;
+    for (int round = 0; round < 10; ++round) {
+        JsonDocument written(rapidjson::kArrayType);
+        while (written.Size() < 100000) {
+            const uint64_t bits = random();
+            double number = 0;
+            std::memcpy(&number, &bits, sizeof number);
+            if (std::isfinite(number))
+                written.PushBack(number, written.GetAllocator());
+        }
+        const JsonDocument read = parse(JsonTextIO::toString(written, false));
+        ASSERT_EQ(read.Size(), written.Size());
+        for (rapidjson::SizeType i = 0; i < written.Size(); ++i) {
+            const double expected = written[i].GetDouble();
+            const double actual = read[i].IsDouble() ? read[i].GetDouble() : std::nan("");
+            if (std::memcmp(&expected, &actual, sizeof expected) != 0 && changed++ == 0)
+                first = JsonTextIO::toString(written[i], false);
+        }
+    }
+    EXPECT_EQ(changed, 0u) << "first changed: " << toNarrow(first);
 }
 
 TEST(JsonTextIO, NumbersBeyondADoubleAreParseErrors)

@@ -15,7 +15,8 @@ namespace hrm {
 class HRM_API Compressor
 {
 public:
-    static constexpr size_t defaultDecompressedSizeLimit = size_t(4) << 30; // 4 GiB
+    // The largest payloads of real models stay well below it (README, "Hostile input").
+    static constexpr size_t defaultDecompressedSizeLimit = size_t(512) << 20; // 512 MiB
 
     // The library-wide limit on the size of decompressed data: what decompress() allows when
     // the caller names no limit. The exchange-object loader holds a shared-memory payload to

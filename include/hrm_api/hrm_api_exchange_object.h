@@ -36,12 +36,18 @@ public:
     // Fills a binary object from the shared-memory buffer named by its source. Does nothing
     // when the object is already loaded, has no source or is not binary. The payload may be
     // compressed or raw. Failures (a missing buffer, corrupt data, a payload larger than
-    // Compressor::decompressedSizeLimit() raw or inflated) throw, and the object stays
-    // unloaded.
+    // Compressor::decompressedSizeLimit() raw or inflated, one that decodes beyond
+    // JsonBinaryIO::memoryBudget()) throw, and the object stays unloaded. When the object
+    // removes its source after loading, the buffer it opened is removed once read, whether the
+    // load then succeeds or throws, if it is this user's own (mp::SharedBuffer::removeOwned).
     virtual void load();
 
     void setSource(const std::wstring& source) { m_source = source; }
     const std::wstring& source() const { return m_source; }
+    // Whether load() removes the buffer it reads. Off for an object whose source the caller
+    // sets; an object announced by a wrapper takes the wrapper's setRemoveAfterLoading.
+    void setRemoveSourceAfterLoading(bool remove) { m_removeSource = remove; }
+    bool removesSourceAfterLoading() const { return m_removeSource; }
 
     // A new random (version 4) UUID: 36 characters, lowercase hexadecimal in 8-4-4-4-12 groups.
     static std::wstring generateUUID();
@@ -55,6 +61,7 @@ protected:
 
     std::wstring m_source; // name of the shared-memory buffer holding the binary data
     bool m_loaded = false; // set once load() has read the source
+    bool m_removeSource = false; // load() removes the buffer it has read
 };
 
 // How an exchange object class makes the fresh object the registry hands out for its type
@@ -145,6 +152,12 @@ public:
 // One exchange object in its envelope: {"exchange_object_name": type name, "binary": true
 // (binary objects only), "exchange_object_data": the object's JSON, or the name of the
 // shared-memory buffer holding a binary object}. Written compact.
+//
+// Shared-memory buffers: the writer creates one for each binary object it writes, and the
+// reader removes it once it has loaded it. Only names of the form the writer makes (canonical
+// UUIDs: 36 characters, lowercase hexadecimal digits in 8-4-4-4-12 groups) are loaded or
+// removed; only a buffer that the reader has opened itself and that is this user's own is
+// removed (mp::SharedBuffer::removeOwned).
 class HRM_API ExchangeObjectWrapper : public mp::ISerializable
 {
 public:
@@ -156,28 +169,40 @@ public:
     // With delayed loading, reading a binary object only records its source; the caller
     // calls load().
     void setDelayedLoading(bool delayed) { m_delayedLoading = delayed; }
-    // For the receiving side: when on, readObject removes the shared-memory buffer of a binary
-    // object once it has loaded it, also when the load throws, so that a long-running reader
-    // does not fill shared memory with buffers it has consumed. Off by default: the buffer
-    // stays, as the writer left it. With delayed loading the caller loads, and then removes
-    // the buffer itself: mp::SharedBuffer<char>::remove(object->source()).
+    // On by default: the reading side removes the shared-memory buffer of a binary object once
+    // it has loaded it (also when the load throws: a corrupt payload is of no more use), so that
+    // a long-running reader does not fill shared memory. With delayed loading the announced
+    // object removes it in its load() (IExchangeObject::setRemoveSourceAfterLoading). A buffer
+    // announced on a path that will not load it (a type this reader does not know, "binary"
+    // for a type that travels inline) is removed at once. A host that forwards envelopes to a
+    // second reader turns this off, and the buffers stay as the writer left them.
     void setRemoveAfterLoading(bool remove) { m_removeAfterLoading = remove; }
 
-    // Writes the envelope. A binary object is encoded (and compressed when compress()) into
-    // a new shared-memory buffer named by a new UUID, which stays after the call.
-    // Throws std::invalid_argument when there is no object.
+    // Writes the envelope. A binary object is encoded (and compressed when compress()) into a
+    // new shared-memory buffer, created exclusively under a new UUID, that stays after the call
+    // for the reader; createdBuffer() names it. Throws std::invalid_argument when there is no
+    // object, and std::runtime_error("Cannot write object into json document") when the
+    // stream has failed before or while the envelope is written; the new buffer is then
+    // removed again.
     void writeObject(std::wostream& out) const override;
+    // The buffer that the last writeObject created and left for the reader; empty when it
+    // created none (an inline object) or threw. A writer whose envelope never reaches its
+    // reader removes it: mp::SharedBuffer<char>::remove(wrapper.createdBuffer()).
+    const std::wstring& createdBuffer() const { return m_createdBuffer; }
     // Reads an envelope and creates the object of the named type from the registry. An
-    // unknown or missing type name leaves no object and is not an error. Throws
-    // std::invalid_argument("Invalid json document") when the text is not a JSON object.
+    // unknown or missing type name leaves no object and is not an error. A binary object whose
+    // data is not a buffer name of the writer's form is logged and left unloaded ("should have
+    // UUID"). Throws std::invalid_argument("Invalid json document") when the text is not a JSON
+    // object.
     void readObject(std::wistream& in) override;
 
 private:
-    void loadObject();
+    void discard(const std::wstring& buffer) const;
 
     std::shared_ptr<IExchangeObject> m_pObject;
     bool m_delayedLoading = false;
-    bool m_removeAfterLoading = false;
+    bool m_removeAfterLoading = true;
+    mutable std::wstring m_createdBuffer;
 };
 
 // ---- Status objects: messages, log lines, progress, finished stages, results ---------------

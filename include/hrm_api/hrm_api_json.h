@@ -89,7 +89,10 @@ public:
     // cut short there (usually kParseErrorValueInvalid) at that container's offset, unless
     // the text has a syntax error before it. A number beyond the range of a double, which
     // RapidJSON's default parse would read as infinity (5e308), is a parse error as well:
-    // kParseErrorNumberTooBig at the number. Parsing itself never recurses.
+    // kParseErrorNumberTooBig at the number. A NUL character is not white space: a NUL after
+    // the value, like any other text there, is kParseErrorDocumentRootNotSingular at the NUL.
+    // Numbers are read exactly (each is the double nearest to it), so a double written by
+    // write() reads back with the same bits. Parsing itself never recurses.
     static std::wistream& read(std::wistream& in, JsonDocument& document);
 
     // The same operations on a wide string, for callers that already hold the text.

@@ -39,6 +39,22 @@ public:
     // Members or elements of one container, at most: RapidJSON's growth arithmetic (32-bit)
     // would wrap round beyond about 2.9 billion. Only a payload of gigabytes comes near it.
     static constexpr size_t maxContainerSize = size_t(1) << 31;
+    // What decoding one value may allocate, at most, unless changed (see setMemoryBudget).
+    // Twice the default decompressed-size limit: what the largest payloads of real models
+    // take when decoded, with room to spare (README, "Hostile input").
+    static constexpr size_t defaultMemoryBudget = size_t(1) << 30; // 1 GiB
+
+    // The library-wide memory budget of decoding: what decode() allows when the caller names
+    // no budget, and what read() allows. Decoding counts what it allocates: a JsonValue for
+    // every value (member names included) in its container's storage, the characters and a
+    // terminator of every string, and the document builder's stack, which holds the values of
+    // the open containers and grows by half when full (one and a half times its highest need).
+    // Data that would take more stops with std::length_error("JsonBinaryIO: Memory budget
+    // exceeded"): a payload of a byte a value (nulls) would otherwise take 40 times its size.
+    // defaultMemoryBudget until changed; it may be changed at any time from any thread and
+    // applies to the decodes that start afterwards.
+    static void setMemoryBudget(size_t bytes);
+    static size_t memoryBudget();
 
     // Appends the encoding of `value` to `out`. Throws std::invalid_argument("JsonBinaryIO:
     // Unknown number type") for a number of no known kind; `out` then holds a partial value.
@@ -59,8 +75,11 @@ public:
     //   name that is not a string ("JsonBinaryIO: Member name is not a string"), nesting deeper
     //   than maxNestingDepth ("JsonBinaryIO: Nesting too deep");
     // - std::length_error("JsonBinaryIO: Container too large") for a container with more than
-    //   maxContainerSize members or elements.
-    static size_t decode(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator);
+    //   maxContainerSize members or elements;
+    // - std::length_error("JsonBinaryIO: Memory budget exceeded") for a value that takes more
+    //   than `budget` bytes as counted above (setMemoryBudget).
+    static size_t decode(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator,
+                         size_t budget = memoryBudget());
 
     // Writes the encoding of `value` at the put position in one write.
     static std::ostream& write(std::ostream& out, const JsonValue& value);

@@ -133,15 +133,18 @@ public:
     }
 
 private:
-    // The size a gzip stream announces in its trailer (modulo 2^32), believed only as far as
-    // deflate can expand (at most 1032 to 1); 0 for other streams.
+    // The size a gzip stream announces in its trailer (modulo 2^32), believed only up to a
+    // small multiple of the input: the trailer is data like any other, and room is reserved
+    // for it before a byte is inflated. Payloads compress about 8 to 1, so they are sized in one
+    // step; larger ratios grow the output as it comes. 0 for other streams.
     static size_t expectedSize(const char* data, size_t size)
     {
+        constexpr size_t trustedRatio = 16;
         if (size < 18 || static_cast<unsigned char>(data[0]) != 0x1F || static_cast<unsigned char>(data[1]) != 0x8B)
             return 0;
         const auto* trailer = reinterpret_cast<const unsigned char*>(data + size - 4);
         const size_t announced = trailer[0] | trailer[1] << 8 | trailer[2] << 16 | size_t(trailer[3]) << 24;
-        return std::min(announced, size * 1032);
+        return std::min(announced, size * trustedRatio);
     }
 
     z_stream m_stream{};

@@ -3,6 +3,7 @@
 #include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_json_binary.h>
 #include <logging/ax_herm_logger.h>
+#include <mp/mp_exception.h>
 #include <mp/mp_shared_buffer.h>
 
 #include "hrm_api/hrm_api_enum_table.h"
@@ -28,9 +29,22 @@ void IExchangeObject::load()
 
     // A missing buffer is an error here; opening it must not leave an empty one behind. The
     // size limit on decompressed data bounds the raw payload as well.
+    mp::SharedBuffer<char> buffer(m_source, false, mp::SharedBuffer<char>::Open::Existing);
     std::vector<char> bytes;
-    mp::SharedBuffer<char>(m_source, false, mp::SharedBuffer<char>::Open::Existing)
-        .read(bytes, Compressor::decompressedSizeLimit());
+    {
+        // Once read (or found unreadable), the buffer is of no more use to its reader.
+        struct Removal
+        {
+            mp::SharedBuffer<char>& buffer;
+            bool wanted;
+            ~Removal()
+            {
+                if (wanted)
+                    buffer.removeOwned();
+            }
+        } removal{buffer, m_removeSource};
+        buffer.read(bytes, Compressor::decompressedSizeLimit());
+    }
     if (Compressor::isCompressed(bytes.data(), bytes.size())) {
         std::vector<char> inflated;
         Compressor::decompress(inflated, bytes.data(), bytes.size());
@@ -101,8 +115,8 @@ std::vector<std::wstring> ExchangeObjectRegistry::names() const
 namespace {
 
 // Puts the binary JSON of `object` (gzip-compressed when the object asks for it) into a new
-// shared-memory buffer and returns the buffer's name.
-std::wstring writeToSharedMemory(const IExchangeObject& object, JsonAllocator& allocator)
+// shared-memory buffer, created exclusively under a new name, and returns it open.
+mp::SharedBuffer<char> writeToSharedMemory(const IExchangeObject& object, JsonAllocator& allocator)
 {
     JsonValue value;
     object.writeObject(value, allocator);
@@ -113,9 +127,35 @@ std::wstring writeToSharedMemory(const IExchangeObject& object, JsonAllocator& a
         Compressor::compress(compressed, bytes.data(), bytes.size(), -1);
         bytes.swap(compressed);
     }
-    const std::wstring name = IExchangeObject::generateUUID();
-    mp::SharedBuffer<char>(name, false).write(bytes.data(), bytes.size());
-    return name;
+    mp::SharedBuffer<char> buffer(IExchangeObject::generateUUID(), false, mp::SharedBuffer<char>::Open::Create);
+    try {
+        buffer.write(bytes.data(), bytes.size());
+    } catch (...) {
+        buffer.removeOwned();
+        throw;
+    }
+    return buffer;
+}
+
+// Whether `name` has the form of the buffer names writers make: a canonical UUID, 36
+// characters of lowercase hexadecimal digits in 8-4-4-4-12 groups. Such a name means the same
+// object on every platform (Windows would take "ABC" and "abc" for one).
+bool isBufferName(const std::wstring& name)
+{
+    if (name.size() != 36)
+        return false;
+    for (size_t i = 0; i < name.size(); ++i) {
+        const wchar_t ch = name[i];
+        const bool hyphen = i == 8 || i == 13 || i == 18 || i == 23;
+        if (hyphen ? ch != L'-' : !((ch >= L'0' && ch <= L'9') || (ch >= L'a' && ch <= L'f')))
+            return false;
+    }
+    return true;
+}
+
+void failedWrite()
+{
+    throw std::runtime_error("Cannot write object into json document");
 }
 
 } // namespace
@@ -123,18 +163,31 @@ std::wstring writeToSharedMemory(const IExchangeObject& object, JsonAllocator& a
 void ExchangeObjectWrapper::writeObject(std::wostream& out) const
 {
     HRM_TRACE();
+    m_createdBuffer.clear();
     if (!m_pObject)
         throw std::invalid_argument("ExchangeObjectWrapper::writeObject > m_pObject == nullptr");
+    if (!out)
+        failedWrite(); // before a buffer that nobody would learn of is made
 
     JsonDocument envelope(rapidjson::kObjectType);
     MemberWriter members(envelope, envelope.GetAllocator());
     members.string(L"exchange_object_name", m_pObject->objectName());
-    if (m_pObject->binary())
-        members.boolean(L"binary", true)
-            .string(L"exchange_object_data", writeToSharedMemory(*m_pObject, envelope.GetAllocator()));
-    else
+    if (!m_pObject->binary()) {
         members.object(L"exchange_object_data", *m_pObject);
-    JsonTextIO::write(out, envelope, false);
+        if (!JsonTextIO::write(out, envelope, false))
+            failedWrite();
+        return;
+    }
+    mp::SharedBuffer<char> buffer = writeToSharedMemory(*m_pObject, envelope.GetAllocator());
+    members.boolean(L"binary", true).string(L"exchange_object_data", buffer.name());
+    try {
+        if (!JsonTextIO::write(out, envelope, false))
+            failedWrite();
+    } catch (...) {
+        buffer.removeOwned(); // the reader will never learn of it
+        throw;
+    }
+    m_createdBuffer = buffer.name();
 }
 
 void ExchangeObjectWrapper::readObject(std::wistream& in)
@@ -145,43 +198,52 @@ void ExchangeObjectWrapper::readObject(std::wistream& in)
 
     const MemberReader members(envelope);
     const JsonValue* name = members.find(L"exchange_object_name");
-    m_pObject = name && name->IsString() ? ExchangeObjectRegistry::instance().get(wideString(*name)) : nullptr;
-    if (!m_pObject)
-        return;
-
     const JsonValue* data = members.find(L"exchange_object_data");
+    const JsonValue* binary = members.find(L"binary");
+    const bool announced = binary && binary->IsTrue();
+    const std::wstring buffer = announced && data && data->IsString() ? wideString(*data) : std::wstring();
+    const bool hasBuffer = isBufferName(buffer);
+
+    m_pObject = name && name->IsString() ? ExchangeObjectRegistry::instance().get(wideString(*name)) : nullptr;
+    if (!m_pObject) {
+        if (hasBuffer)
+            discard(buffer);
+        return;
+    }
     if (!data) {
         HRM_LOG(ax_herm::Error) << "ExchangeObjectWrapper JSON object has no Exchange Object data.";
         return;
     }
-    const JsonValue* binary = members.find(L"binary");
-    if (!binary || !binary->IsTrue()) {
+    if (!announced) {
         m_pObject->readObject(*data);
         return;
     }
-    if (!data->IsString()) {
+    if (!hasBuffer) {
         HRM_LOG(ax_herm::Error)
             << "ExchangeObjectWrapper JSON object should have UUID in Exchange Object Data field (if binary).";
         return;
     }
-    m_pObject->setSource(wideString(*data));
-    if (!m_delayedLoading)
-        loadObject();
-}
-
-void ExchangeObjectWrapper::loadObject()
-{
-    if (!m_removeAfterLoading || !m_pObject->binary()) {
-        m_pObject->load();
+    m_pObject->setSource(buffer);
+    if (!m_pObject->binary()) {
+        discard(buffer); // load() does nothing for a type that travels inline
         return;
     }
-    // The buffer goes whether the load succeeds or throws: a corrupt payload is of no more use.
-    struct Removal
-    {
-        const std::wstring& name;
-        ~Removal() { mp::SharedBuffer<char>::remove(name); }
-    } removal{m_pObject->source()};
-    m_pObject->load();
+    m_pObject->setRemoveSourceAfterLoading(m_removeAfterLoading);
+    if (!m_delayedLoading)
+        m_pObject->load();
+}
+
+// Removes an announced buffer that this reader will not load, if removal is on and the buffer
+// is this user's own.
+void ExchangeObjectWrapper::discard(const std::wstring& buffer) const
+{
+    if (!m_removeAfterLoading)
+        return;
+    try {
+        mp::SharedBuffer<char>(buffer, false, mp::SharedBuffer<char>::Open::Existing).removeOwned();
+    } catch (const mp::SharedMemoryException&) {
+        // gone already, or not ours to open
+    }
 }
 
 // ---- Status objects -----------------------------------------------------------------------

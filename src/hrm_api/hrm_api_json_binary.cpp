@@ -3,6 +3,7 @@
 #include <logging/ax_herm_logger.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <istream>
 #include <limits>
@@ -275,10 +276,19 @@ private:
 // until the container ends. Each container then gets storage for exactly its members or
 // elements, taken in one piece from the allocator, rather than room for 16 that grows by
 // half when full; the decoded document is the same, in a third less memory for typical data.
+//
+// What decoding allocates is counted against a budget: each value takes a JsonValue in its
+// container's storage, each string its characters and a terminator, and the builder's stack,
+// which holds the values of the open containers and grows by half when full, up to one and a
+// half times its highest need. Past the budget decoding stops, so that data which costs the
+// peer a byte a value (a null) cannot make the reader allocate forty times its size unbounded.
 class Decoder
 {
 public:
-    Decoder(const char* data, size_t size) : m_begin(data), m_at(data), m_end(data + size) {}
+    Decoder(const char* data, size_t size, size_t budget)
+        : m_begin(data), m_at(data), m_end(data + size), m_budget(budget)
+    {
+    }
 
     size_t offset() const { return static_cast<size_t>(m_at - m_begin); }
 
@@ -289,6 +299,7 @@ public:
         while (!m_open.empty()) {
             Container& top = m_open.back();
             if (offset() >= top.end) {
+                m_onStack -= top.object ? 2 * size_t(top.count) : top.count;
                 if (top.object)
                     builder.EndObject(top.count);
                 else
@@ -303,6 +314,7 @@ public:
                 if (tag() != TagString)
                     throw std::invalid_argument("JsonBinaryIO: Member name is not a string");
                 const auto [text, length] = string();
+                count(stringCost(length));
                 builder.Key(text, length, true);
             }
             value(builder); // may open a container: `top` is not used after this
@@ -318,12 +330,27 @@ private:
         bool object;
     };
 
+    static size_t stringCost(size_t length) { return (length + 1) * sizeof(wchar_t); }
+
+    // Counts one more value for the builder, with `bytes` of its own beside its JsonValue.
+    void count(size_t bytes)
+    {
+        m_stored += sizeof(JsonValue) + bytes;
+        m_highestOnStack = std::max(m_highestOnStack, ++m_onStack);
+        const size_t stack = m_highestOnStack * sizeof(JsonValue) / 2 * 3;
+        if (m_stored > m_budget || stack > m_budget - m_stored)
+            throw std::length_error("JsonBinaryIO: Memory budget exceeded");
+    }
+
     size_t remaining() const { return static_cast<size_t>(m_end - m_at); }
 
     // Reads one value; a container is left open on the stack for operator() to fill.
     void value(JsonDocument& builder)
     {
-        switch (tag()) {
+        const uint8_t tag = this->tag();
+        if (tag != TagString)
+            count(0);
+        switch (tag) {
         case TagNull:
             builder.Null();
             break;
@@ -343,6 +370,7 @@ private:
             break;
         case TagString: {
             const auto [text, length] = string();
+            count(stringCost(length));
             builder.String(text, length, true);
             break;
         }
@@ -459,12 +487,18 @@ private:
     const char* const m_end;
     std::vector<Container> m_open;
     std::vector<wchar_t> m_text;
+    const size_t m_budget;
+    size_t m_stored = 0;         // values in their containers, and the characters of strings
+    size_t m_onStack = 0;        // values on the builder's stack
+    size_t m_highestOnStack = 0;
 };
 
+std::atomic<size_t> memoryBudget{JsonBinaryIO::defaultMemoryBudget};
+
 // Decodes into `value` only once the whole value has been read: a failure leaves it as it was.
-size_t decodeInto(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator)
+size_t decodeInto(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator, size_t budget)
 {
-    Decoder decoder(data, size);
+    Decoder decoder(data, size, budget);
     JsonDocument builder(&allocator);
     builder.Populate(decoder);
     value.Swap(builder);
@@ -492,10 +526,21 @@ void JsonBinaryIO::encode(const JsonValue& value, std::vector<char>& out)
     Encoder(out).encode(value);
 }
 
-size_t JsonBinaryIO::decode(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator)
+void JsonBinaryIO::setMemoryBudget(size_t bytes)
+{
+    hrm::memoryBudget = bytes;
+}
+
+size_t JsonBinaryIO::memoryBudget()
+{
+    return hrm::memoryBudget;
+}
+
+size_t JsonBinaryIO::decode(const char* data, size_t size, JsonValue& value, JsonAllocator& allocator,
+                            size_t budget)
 {
     HRM_TRACE();
-    return decodeInto(data, size, value, allocator);
+    return decodeInto(data, size, value, allocator, budget);
 }
 
 std::ostream& JsonBinaryIO::write(std::ostream& out, const JsonValue& value)
@@ -511,7 +556,7 @@ std::istream& JsonBinaryIO::read(std::istream& in, JsonValue& value, JsonAllocat
     HRM_TRACE();
     const std::istream::pos_type start = in.tellg(); // -1 when the stream has failed
     const std::vector<char> bytes = start == std::istream::pos_type(-1) ? std::vector<char>() : availableBytes(in);
-    const size_t consumed = decodeInto(bytes.data(), bytes.size(), value, allocator);
+    const size_t consumed = decodeInto(bytes.data(), bytes.size(), value, allocator, memoryBudget());
     if (consumed < bytes.size())
         in.seekg(start + static_cast<std::streamoff>(consumed));
     return in;

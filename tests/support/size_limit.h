@@ -1,6 +1,7 @@
 #pragma once
 
 #include <hrm_api/hrm_api_compression.h>
+#include <hrm_api/hrm_api_json_binary.h>
 
 #include <cstddef>
 
@@ -13,6 +14,15 @@ struct SizeLimit
     ~SizeLimit() { Compressor::setDecompressedSizeLimit(Compressor::defaultDecompressedSizeLimit); }
     SizeLimit(const SizeLimit&) = delete;
     SizeLimit& operator=(const SizeLimit&) = delete;
+};
+
+// Sets the library-wide memory budget of binary decoding for one scope.
+struct MemoryBudget
+{
+    explicit MemoryBudget(size_t bytes) { JsonBinaryIO::setMemoryBudget(bytes); }
+    ~MemoryBudget() { JsonBinaryIO::setMemoryBudget(JsonBinaryIO::defaultMemoryBudget); }
+    MemoryBudget(const MemoryBudget&) = delete;
+    MemoryBudget& operator=(const MemoryBudget&) = delete;
 };
 
 } // namespace hrm::test
