@@ -2,6 +2,8 @@
 
 #include <logging/ax_herm_logger.h>
 
+#include "hrm_api/hrm_api_deflate_engines.h"
+
 #define ZLIB_CONST
 #include <zlib.h>
 
@@ -41,6 +43,7 @@ struct Input
 };
 
 std::atomic<size_t> decompressedSizeLimit{Compressor::defaultDecompressedSizeLimit};
+std::atomic<Compression> compression{Compression{}};
 
 // Points zlib's output at up to `chunk` bytes of `out` after `total`, staying within the
 // vector's capacity while it has any left; a full vector grows by at least `chunk` and at
@@ -240,6 +243,22 @@ size_t Compressor::decompressedSizeLimit()
     return hrm::decompressedSizeLimit;
 }
 
+void Compressor::setCompression(Compression compression)
+{
+    deflate_engines::check(compression);
+    hrm::compression = compression;
+}
+
+Compression Compressor::compression()
+{
+    return hrm::compression;
+}
+
+bool Compressor::isAvailable(DeflateEngine engine)
+{
+    return deflate_engines::isBuiltIn(engine);
+}
+
 bool Compressor::isCompressed(const char* data, size_t size)
 {
     if (data == nullptr || size < 3)
@@ -265,12 +284,29 @@ void Compressor::compress(std::string& out, const char* data, size_t size, int l
     out.assign(bytes.data(), bytes.size());
 }
 
+void Compressor::compress(std::vector<char>& out, const char* data, size_t size, Compression compression)
+{
+    HRM_TRACE();
+    if (compression.engine == DeflateEngine::zlib)
+        Deflater(compression.level).run(out, data, size);
+    else
+        deflate_engines::compress(compression, out, data, size);
+}
+
+void Compressor::compress(std::string& out, const char* data, size_t size, Compression compression)
+{
+    HRM_TRACE();
+    std::vector<char> bytes;
+    compress(bytes, data, size, compression);
+    out.assign(bytes.data(), bytes.size());
+}
+
 void Compressor::decompress(std::vector<char>& out, const char* data, size_t size, size_t maxSize)
 {
     HRM_TRACE();
     if (size == 0)
         out.clear();
-    else
+    else if (!deflate_engines::inflate(out, data, size, maxSize))
         Inflater().run(out, data, size, maxSize);
 }
 
@@ -278,7 +314,7 @@ void Compressor::decompress(std::string& out, const char* data, size_t size, siz
 {
     HRM_TRACE();
     std::vector<char> bytes;
-    if (size != 0)
+    if (size != 0 && !deflate_engines::inflate(bytes, data, size, maxSize))
         Inflater().run(bytes, data, size, maxSize);
     out.assign(bytes.data(), bytes.size());
 }

@@ -87,8 +87,8 @@ std::shared_ptr<IExchangeObject> ExchangeObjectRegistry::get(const std::wstring&
 
 namespace {
 
-// Puts the binary JSON of `object` (gzip-compressed when the object asks for it) into a new
-// shared-memory buffer and returns the buffer's name.
+// Puts the binary JSON of `object` (gzip-compressed as Compressor::compression() says, when the
+// object asks for it) into a new shared-memory buffer and returns the buffer's name.
 std::wstring writeToSharedMemory(const IExchangeObject& object, JsonAllocator& allocator)
 {
     JsonValue value;
@@ -97,7 +97,7 @@ std::wstring writeToSharedMemory(const IExchangeObject& object, JsonAllocator& a
     JsonBinaryIO::encode(value, bytes);
     if (object.compress()) {
         std::vector<char> compressed;
-        Compressor::compress(compressed, bytes.data(), bytes.size(), -1);
+        Compressor::compress(compressed, bytes.data(), bytes.size(), Compressor::compression());
         bytes.swap(compressed);
     }
     const std::wstring name = IExchangeObject::generateUUID();

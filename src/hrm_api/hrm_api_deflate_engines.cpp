@@ -1,0 +1,295 @@
+#include "hrm_api/hrm_api_deflate_engines.h"
+
+#if defined(HRM_WITH_LIBDEFLATE)
+#include <libdeflate.h>
+#endif
+#if defined(HRM_WITH_IGZIP)
+#include <isa-l/igzip_lib.h>
+#endif
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <stdexcept>
+
+namespace hrm::deflate_engines {
+namespace {
+
+// The levels an engine takes, and the one that -1 stands for.
+struct Levels
+{
+    int lowest;
+    int highest;
+    int standard;
+};
+
+Levels levelsOf(DeflateEngine engine)
+{
+    switch (engine) {
+    case DeflateEngine::zlib:
+        return {0, 9, 6};
+    case DeflateEngine::libdeflate:
+        return {0, 12, 6};
+    case DeflateEngine::igzip:
+        return {0, 3, 1};
+    }
+    return {0, -1, 0}; // not an engine: no level at all
+}
+
+// The level `compression` names, -1 resolved; throws for an engine not built in or a level it
+// refuses.
+int levelOf(Compression compression)
+{
+    if (!isBuiltIn(compression.engine))
+        throw std::invalid_argument("Compressor: deflate engine not available");
+    const Levels levels = levelsOf(compression.engine);
+    const int level = compression.level == -1 ? levels.standard : compression.level;
+    if (level < levels.lowest || level > levels.highest)
+        throw std::runtime_error("deflate init failed");
+    return level;
+}
+
+// The two wrappers a compressed stream comes in.
+enum class Wrapper
+{
+    gzip,
+    zlib,
+};
+
+// What one attempt to inflate a whole stream into a buffer of fixed size came to.
+enum class Attempt
+{
+    done,      // the stream is whole and well-formed, and fitted
+    needsRoom, // well-formed so far, but it inflates to more than the buffer holds
+    failed,    // anything else
+};
+
+#if defined(HRM_WITH_LIBDEFLATE)
+
+struct FreeLibdeflate
+{
+    void operator()(libdeflate_compressor* compressor) const { libdeflate_free_compressor(compressor); }
+    void operator()(libdeflate_decompressor* decompressor) const { libdeflate_free_decompressor(decompressor); }
+};
+
+void libdeflateCompress(int level, std::vector<char>& out, const char* data, size_t size)
+{
+    const std::unique_ptr<libdeflate_compressor, FreeLibdeflate> compressor(libdeflate_alloc_compressor(level));
+    if (!compressor)
+        throw std::runtime_error("deflate init failed");
+    out.resize(libdeflate_gzip_compress_bound(compressor.get(), size));
+    out.resize(libdeflate_gzip_compress(compressor.get(), data, size, out.data(), out.size()));
+}
+
+class LibdeflateInflater
+{
+public:
+    LibdeflateInflater() : m_decompressor(libdeflate_alloc_decompressor()) {}
+
+    Attempt run(Wrapper wrapper, char* out, size_t room, const char* data, size_t size, size_t& produced)
+    {
+        if (!m_decompressor)
+            return Attempt::failed;
+        size_t consumed = 0; // asked for, so that bytes after the stream are ignored as zlib does
+        const auto run = wrapper == Wrapper::gzip ? libdeflate_gzip_decompress_ex : libdeflate_zlib_decompress_ex;
+        switch (run(m_decompressor.get(), data, size, out, room, &consumed, &produced)) {
+        case LIBDEFLATE_SUCCESS:
+            return Attempt::done;
+        case LIBDEFLATE_INSUFFICIENT_SPACE:
+            return Attempt::needsRoom;
+        default:
+            return Attempt::failed;
+        }
+    }
+
+private:
+    std::unique_ptr<libdeflate_decompressor, FreeLibdeflate> m_decompressor;
+};
+
+#endif
+
+#if defined(HRM_WITH_IGZIP)
+
+// igzip counts in 32 bits.
+uint32_t igzipCount(size_t count)
+{
+    return static_cast<uint32_t>(std::min<size_t>(count, std::numeric_limits<uint32_t>::max()));
+}
+
+void igzipCompress(int level, std::vector<char>& out, const char* data, size_t size)
+{
+    static constexpr uint32_t levelBufferSizes[] = {ISAL_DEF_LVL0_DEFAULT, ISAL_DEF_LVL1_DEFAULT,
+                                                    ISAL_DEF_LVL2_DEFAULT, ISAL_DEF_LVL3_DEFAULT};
+    std::vector<uint8_t> levelBuffer(levelBufferSizes[level]);
+    isal_zstream stream{}; // isal_deflate_init leaves the input and output fields as they are
+    isal_deflate_init(&stream);
+    stream.level = static_cast<uint32_t>(level);
+    stream.level_buf = levelBuffer.data();
+    stream.level_buf_size = static_cast<uint32_t>(levelBuffer.size());
+    stream.gzip_flag = IGZIP_GZIP;
+
+    size_t consumed = 0;
+    size_t total = 0;
+    out.clear();
+    do {
+        if (stream.avail_in == 0) {
+            stream.avail_in = igzipCount(size - consumed);
+            stream.next_in = reinterpret_cast<uint8_t*>(const_cast<char*>(data + consumed));
+            consumed += stream.avail_in;
+            stream.end_of_stream = consumed == size;
+        }
+        if (total == out.size())
+            out.resize(std::max(2 * total, size / 2 + 1024));
+        stream.avail_out = igzipCount(out.size() - total);
+        stream.next_out = reinterpret_cast<uint8_t*>(out.data() + total);
+        const uint32_t room = stream.avail_out;
+        if (isal_deflate(&stream) != COMP_OK)
+            throw std::runtime_error("deflate init failed"); // a level this processor lacks
+        total += room - stream.avail_out;
+    } while (stream.internal_state.state != ZSTATE_END);
+    out.resize(total);
+}
+
+class IgzipInflater
+{
+public:
+    IgzipInflater() : m_state(std::make_unique<inflate_state>()) {}
+
+    Attempt run(Wrapper wrapper, char* out, size_t room, const char* data, size_t size, size_t& produced)
+    {
+        if (size > std::numeric_limits<uint32_t>::max() || room > std::numeric_limits<uint32_t>::max())
+            return Attempt::failed;
+        isal_inflate_init(m_state.get());
+        m_state->next_in = reinterpret_cast<uint8_t*>(const_cast<char*>(data));
+        m_state->avail_in = static_cast<uint32_t>(size);
+        m_state->next_out = reinterpret_cast<uint8_t*>(out);
+        m_state->avail_out = static_cast<uint32_t>(room);
+        m_state->crc_flag = wrapper == Wrapper::gzip ? ISAL_GZIP : ISAL_ZLIB;
+        const int result = isal_inflate_stateless(m_state.get());
+        produced = m_state->total_out;
+        if (result == ISAL_OUT_OVERFLOW)
+            return Attempt::needsRoom;
+        return result == ISAL_DECOMP_OK && m_state->block_state == ISAL_BLOCK_FINISH ? Attempt::done : Attempt::failed;
+    }
+
+private:
+    std::unique_ptr<inflate_state> m_state;
+};
+
+#endif
+
+#if defined(HRM_WITH_LIBDEFLATE)
+using FastInflater = LibdeflateInflater;
+#elif defined(HRM_WITH_IGZIP)
+using FastInflater = IgzipInflater;
+#endif
+
+#if defined(HRM_WITH_LIBDEFLATE) || defined(HRM_WITH_IGZIP)
+
+constexpr unsigned char gzipHeaderCrcFlag = 0x02;
+
+// The wrapper of a stream that the fast engine inflates exactly as zlib does, if it is one.
+// libdeflate skips a gzip header's CRC without checking it, so such headers go to zlib.
+bool fastWrapper(const char* data, size_t size, Wrapper& wrapper)
+{
+    const auto* bytes = reinterpret_cast<const unsigned char*>(data);
+    if (size >= 4 && bytes[0] == 0x1F && bytes[1] == 0x8B) {
+        wrapper = Wrapper::gzip;
+        return (bytes[3] & gzipHeaderCrcFlag) == 0;
+    }
+    wrapper = Wrapper::zlib;
+    return size >= 2;
+}
+
+// The size a gzip stream announces in its trailer: its true size modulo 2^32 if it is whole.
+size_t announcedSize(const char* data, size_t size)
+{
+    const auto* trailer = reinterpret_cast<const unsigned char*>(data + size - 4);
+    return trailer[0] | trailer[1] << 8 | trailer[2] << 16 | size_t(trailer[3]) << 24;
+}
+
+// Until the data has shown that it inflates further, the output is given at most this many
+// times the input; each time it fills that, the room grows by `roomGrowth`.
+constexpr size_t trustedRatio = 16;
+constexpr size_t roomGrowth = 4;
+
+#endif
+
+} // namespace
+
+bool isBuiltIn(DeflateEngine engine)
+{
+    switch (engine) {
+    case DeflateEngine::zlib:
+        return true;
+    case DeflateEngine::libdeflate:
+#if defined(HRM_WITH_LIBDEFLATE)
+        return true;
+#else
+        return false;
+#endif
+    case DeflateEngine::igzip:
+#if defined(HRM_WITH_IGZIP)
+        return true;
+#else
+        return false;
+#endif
+    }
+    return false;
+}
+
+void check(Compression compression)
+{
+    levelOf(compression);
+}
+
+void compress(Compression compression, std::vector<char>& out, const char* data, size_t size)
+{
+    [[maybe_unused]] const int level = levelOf(compression);
+#if defined(HRM_WITH_LIBDEFLATE)
+    if (compression.engine == DeflateEngine::libdeflate)
+        return libdeflateCompress(level, out, data, size);
+#endif
+#if defined(HRM_WITH_IGZIP)
+    if (compression.engine == DeflateEngine::igzip)
+        return igzipCompress(level, out, data, size);
+#endif
+    throw std::invalid_argument("Compressor: deflate engine not available");
+}
+
+bool inflate([[maybe_unused]] std::vector<char>& out, [[maybe_unused]] const char* data,
+             [[maybe_unused]] size_t size, [[maybe_unused]] size_t maxSize)
+{
+#if defined(HRM_WITH_LIBDEFLATE) || defined(HRM_WITH_IGZIP)
+    Wrapper wrapper;
+    if (!fastWrapper(data, size, wrapper))
+        return false;
+    // A whole gzip stream is exactly as long as it announces (unless it passes 4 GiB, when
+    // the room runs out and zlib takes over).
+    const size_t limit = wrapper == Wrapper::gzip ? std::min(maxSize, announcedSize(data, size)) : maxSize;
+    size_t room = size > limit / trustedRatio ? limit : size * trustedRatio;
+    FastInflater inflater;
+    for (;;) {
+        out.clear();
+        out.resize(std::max<size_t>(room, 1)); // never a null buffer, even for nothing
+        size_t produced = 0;
+        switch (inflater.run(wrapper, out.data(), room, data, size, produced)) {
+        case Attempt::done:
+            out.resize(produced);
+            return true;
+        case Attempt::needsRoom:
+            if (room == limit)
+                return false;
+            room = room > limit / roomGrowth ? limit : room * roomGrowth;
+            break;
+        case Attempt::failed:
+            return false;
+        }
+    }
+#else
+    return false;
+#endif
+}
+
+} // namespace hrm::deflate_engines

@@ -1,0 +1,30 @@
+#pragma once
+
+// The deflate engines beside zlib (libdeflate, Intel ISA-L's igzip), each built in only when
+// the library is built with it. Compressor keeps zlib's own path; it comes here for the rest.
+
+#include <hrm_api/hrm_api_compression.h>
+
+#include <cstddef>
+#include <vector>
+
+namespace hrm::deflate_engines {
+
+// Whether `engine` is built in (zlib is not one of these engines: false).
+bool isBuiltIn(DeflateEngine engine);
+
+// Throws what compress() throws for `compression` (an engine not built in, a level it refuses).
+void check(Compression compression);
+
+// Replaces `out` with the gzip stream of the input, compressed as `compression` says with an
+// engine other than zlib. Throws as check() does.
+void compress(Compression compression, std::vector<char>& out, const char* data, size_t size);
+
+// Inflates a whole, well-formed gzip or zlib stream of at most `maxSize` bytes into `out` with
+// the fastest engine built in, and returns true. Returns false, `out` unspecified, when there
+// is no such engine or the input is anything else (corrupt, cut short, beyond the limit, a
+// gzip header with a header CRC, too large for the engine): zlib then inflates it, and so
+// gives the same prefix, limit and message it always gives.
+bool inflate(std::vector<char>& out, const char* data, size_t size, size_t maxSize);
+
+} // namespace hrm::deflate_engines
