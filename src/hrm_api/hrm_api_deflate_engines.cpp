@@ -179,6 +179,25 @@ private:
 
 #endif
 
+using CompressFunction = void (*)(int level, std::vector<char>& out, const char* data, size_t size);
+
+// The engine's gzip compressor; null for zlib (Compressor's own) and engines not built in.
+CompressFunction compressorOf(DeflateEngine engine)
+{
+    switch (engine) {
+#if defined(HRM_WITH_LIBDEFLATE)
+    case DeflateEngine::libdeflate:
+        return libdeflateCompress;
+#endif
+#if defined(HRM_WITH_IGZIP)
+    case DeflateEngine::igzip:
+        return igzipCompress;
+#endif
+    default:
+        return nullptr;
+    }
+}
+
 #if defined(HRM_WITH_LIBDEFLATE)
 using FastInflater = LibdeflateInflater;
 #elif defined(HRM_WITH_IGZIP)
@@ -220,23 +239,7 @@ constexpr size_t roomGrowth = 4;
 
 bool isBuiltIn(DeflateEngine engine)
 {
-    switch (engine) {
-    case DeflateEngine::zlib:
-        return true;
-    case DeflateEngine::libdeflate:
-#if defined(HRM_WITH_LIBDEFLATE)
-        return true;
-#else
-        return false;
-#endif
-    case DeflateEngine::igzip:
-#if defined(HRM_WITH_IGZIP)
-        return true;
-#else
-        return false;
-#endif
-    }
-    return false;
+    return engine == DeflateEngine::zlib || compressorOf(engine) != nullptr;
 }
 
 void check(Compression compression)
@@ -246,22 +249,17 @@ void check(Compression compression)
 
 void compress(Compression compression, std::vector<char>& out, const char* data, size_t size)
 {
-    [[maybe_unused]] const int level = levelOf(compression);
-#if defined(HRM_WITH_LIBDEFLATE)
-    if (compression.engine == DeflateEngine::libdeflate)
-        return libdeflateCompress(level, out, data, size);
-#endif
-#if defined(HRM_WITH_IGZIP)
-    if (compression.engine == DeflateEngine::igzip)
-        return igzipCompress(level, out, data, size);
-#endif
-    throw std::invalid_argument("Compressor: deflate engine not available");
+    const int level = levelOf(compression);
+    const CompressFunction engine = compressorOf(compression.engine);
+    if (!engine) // zlib: Compressor's own
+        throw std::invalid_argument("Compressor: deflate engine not available");
+    engine(level, out, data, size);
 }
 
-bool inflate([[maybe_unused]] std::vector<char>& out, [[maybe_unused]] const char* data,
-             [[maybe_unused]] size_t size, [[maybe_unused]] size_t maxSize)
-{
 #if defined(HRM_WITH_LIBDEFLATE) || defined(HRM_WITH_IGZIP)
+
+bool inflate(std::vector<char>& out, const char* data, size_t size, size_t maxSize)
+{
     Wrapper wrapper;
     if (!fastWrapper(data, size, wrapper))
         return false;
@@ -287,9 +285,15 @@ bool inflate([[maybe_unused]] std::vector<char>& out, [[maybe_unused]] const cha
             return false;
         }
     }
-#else
-    return false;
-#endif
 }
+
+#else
+
+bool inflate(std::vector<char>&, const char*, size_t, size_t)
+{
+    return false;
+}
+
+#endif
 
 } // namespace hrm::deflate_engines
