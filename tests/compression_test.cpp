@@ -313,6 +313,13 @@ TEST(Compressor, TruncatedStreamsGiveAPrefixAndCorruptOnesThrow)
     EXPECT_EQ(corrupted(gzip.size() - 1, '\x7F'), "incorrect length check");
     EXPECT_EQ(zlibMessage(Bytes{'n', 'o', 't', ' ', 'z', 'l', 'i', 'b'}), "incorrect header check");
 
+    // 100 times "a" with the right CRC and size, in a block whose literal/length code is
+    // incomplete (two codes of two bits): zlib refuses it, and so must a faster inflater.
+    Bytes incompleteCode{'\x1F', '\x8B', 8, 0, 0, 0, 0, 0, 0, 3, 0x05, '\xC0', 0x01, 0x09, 0, 0, 0, '\x80', '\xA0', '\xAD', '\xFD', 0x3F, '\x91'};
+    incompleteCode.resize(incompleteCode.size() + 25, 0);
+    incompleteCode.insert(incompleteCode.end(), {0x02, 0x64, 0x7A, 0x70, '\xAF', 0x64, 0, 0, 0});
+    EXPECT_EQ(zlibMessage(incompleteCode), "invalid literal/lengths set");
+
     EXPECT_EQ(failureOf([&] { compressed(data, 10); }), "deflate init failed");
 }
 

@@ -50,21 +50,6 @@ int levelOf(Compression compression)
     return level;
 }
 
-// The two wrappers a compressed stream comes in.
-enum class Wrapper
-{
-    gzip,
-    zlib,
-};
-
-// What one attempt to inflate a whole stream into a buffer of fixed size came to.
-enum class Attempt
-{
-    done,      // the stream is whole and well-formed, and fitted
-    needsRoom, // well-formed so far, but it inflates to more than the buffer holds
-    failed,    // anything else
-};
-
 #if defined(HRM_WITH_LIBDEFLATE)
 
 struct FreeLibdeflate
@@ -82,30 +67,39 @@ void libdeflateCompress(int level, std::vector<char>& out, const char* data, siz
     out.resize(libdeflate_gzip_compress(compressor.get(), data, size, out.data(), out.size()));
 }
 
-class LibdeflateInflater
+// The two wrappers a compressed stream comes in.
+enum class Wrapper
 {
-public:
-    LibdeflateInflater() : m_decompressor(libdeflate_alloc_decompressor()) {}
-
-    Attempt run(Wrapper wrapper, char* out, size_t room, const char* data, size_t size, size_t& produced)
-    {
-        if (!m_decompressor)
-            return Attempt::failed;
-        size_t consumed = 0; // asked for, so that bytes after the stream are ignored as zlib does
-        const auto run = wrapper == Wrapper::gzip ? libdeflate_gzip_decompress_ex : libdeflate_zlib_decompress_ex;
-        switch (run(m_decompressor.get(), data, size, out, room, &consumed, &produced)) {
-        case LIBDEFLATE_SUCCESS:
-            return Attempt::done;
-        case LIBDEFLATE_INSUFFICIENT_SPACE:
-            return Attempt::needsRoom;
-        default:
-            return Attempt::failed;
-        }
-    }
-
-private:
-    std::unique_ptr<libdeflate_decompressor, FreeLibdeflate> m_decompressor;
+    gzip,
+    zlib,
 };
+
+constexpr unsigned char gzipHeaderCrcFlag = 0x02;
+
+// The wrapper of a stream that libdeflate inflates exactly as zlib does, if it is one.
+// libdeflate skips a gzip header's CRC without checking it, so such headers go to zlib.
+bool libdeflateWrapper(const char* data, size_t size, Wrapper& wrapper)
+{
+    const auto* bytes = reinterpret_cast<const unsigned char*>(data);
+    if (size >= 4 && bytes[0] == 0x1F && bytes[1] == 0x8B) {
+        wrapper = Wrapper::gzip;
+        return (bytes[3] & gzipHeaderCrcFlag) == 0;
+    }
+    wrapper = Wrapper::zlib;
+    return size >= 2;
+}
+
+// The size a gzip stream announces in its trailer: its true size modulo 2^32 if it is whole.
+size_t announcedSize(const char* data, size_t size)
+{
+    const auto* trailer = reinterpret_cast<const unsigned char*>(data + size - 4);
+    return trailer[0] | trailer[1] << 8 | trailer[2] << 16 | size_t(trailer[3]) << 24;
+}
+
+// Until the data has shown that it inflates further, the output is given at most this many
+// times the input; each time it fills that, the room grows by `roomGrowth`.
+constexpr size_t trustedRatio = 16;
+constexpr size_t roomGrowth = 4;
 
 #endif
 
@@ -151,32 +145,6 @@ void igzipCompress(int level, std::vector<char>& out, const char* data, size_t s
     out.resize(total);
 }
 
-class IgzipInflater
-{
-public:
-    IgzipInflater() : m_state(std::make_unique<inflate_state>()) {}
-
-    Attempt run(Wrapper wrapper, char* out, size_t room, const char* data, size_t size, size_t& produced)
-    {
-        if (size > std::numeric_limits<uint32_t>::max() || room > std::numeric_limits<uint32_t>::max())
-            return Attempt::failed;
-        isal_inflate_init(m_state.get());
-        m_state->next_in = reinterpret_cast<uint8_t*>(const_cast<char*>(data));
-        m_state->avail_in = static_cast<uint32_t>(size);
-        m_state->next_out = reinterpret_cast<uint8_t*>(out);
-        m_state->avail_out = static_cast<uint32_t>(room);
-        m_state->crc_flag = wrapper == Wrapper::gzip ? ISAL_GZIP : ISAL_ZLIB;
-        const int result = isal_inflate_stateless(m_state.get());
-        produced = m_state->total_out;
-        if (result == ISAL_OUT_OVERFLOW)
-            return Attempt::needsRoom;
-        return result == ISAL_DECOMP_OK && m_state->block_state == ISAL_BLOCK_FINISH ? Attempt::done : Attempt::failed;
-    }
-
-private:
-    std::unique_ptr<inflate_state> m_state;
-};
-
 #endif
 
 using CompressFunction = void (*)(int level, std::vector<char>& out, const char* data, size_t size);
@@ -197,43 +165,6 @@ CompressFunction compressorOf(DeflateEngine engine)
         return nullptr;
     }
 }
-
-#if defined(HRM_WITH_LIBDEFLATE)
-using FastInflater = LibdeflateInflater;
-#elif defined(HRM_WITH_IGZIP)
-using FastInflater = IgzipInflater;
-#endif
-
-#if defined(HRM_WITH_LIBDEFLATE) || defined(HRM_WITH_IGZIP)
-
-constexpr unsigned char gzipHeaderCrcFlag = 0x02;
-
-// The wrapper of a stream that the fast engine inflates exactly as zlib does, if it is one.
-// libdeflate skips a gzip header's CRC without checking it, so such headers go to zlib.
-bool fastWrapper(const char* data, size_t size, Wrapper& wrapper)
-{
-    const auto* bytes = reinterpret_cast<const unsigned char*>(data);
-    if (size >= 4 && bytes[0] == 0x1F && bytes[1] == 0x8B) {
-        wrapper = Wrapper::gzip;
-        return (bytes[3] & gzipHeaderCrcFlag) == 0;
-    }
-    wrapper = Wrapper::zlib;
-    return size >= 2;
-}
-
-// The size a gzip stream announces in its trailer: its true size modulo 2^32 if it is whole.
-size_t announcedSize(const char* data, size_t size)
-{
-    const auto* trailer = reinterpret_cast<const unsigned char*>(data + size - 4);
-    return trailer[0] | trailer[1] << 8 | trailer[2] << 16 | size_t(trailer[3]) << 24;
-}
-
-// Until the data has shown that it inflates further, the output is given at most this many
-// times the input; each time it fills that, the room grows by `roomGrowth`.
-constexpr size_t trustedRatio = 16;
-constexpr size_t roomGrowth = 4;
-
-#endif
 
 } // namespace
 
@@ -256,32 +187,39 @@ void compress(Compression compression, std::vector<char>& out, const char* data,
     engine(level, out, data, size);
 }
 
-#if defined(HRM_WITH_LIBDEFLATE) || defined(HRM_WITH_IGZIP)
+#if defined(HRM_WITH_LIBDEFLATE)
 
+// libdeflate alone: igzip's inflate would be fast too, but it takes streams that zlib refuses
+// (incomplete Huffman codes, a zlib header asking for a window beyond 32 KiB, reserved gzip
+// flags), and the checksums do not catch that.
 bool inflate(std::vector<char>& out, const char* data, size_t size, size_t maxSize)
 {
     Wrapper wrapper;
-    if (!fastWrapper(data, size, wrapper))
+    if (!libdeflateWrapper(data, size, wrapper))
         return false;
+    const std::unique_ptr<libdeflate_decompressor, FreeLibdeflate> decompressor(libdeflate_alloc_decompressor());
+    if (!decompressor)
+        return false;
+    // Both stop at the end of the stream and ignore what follows it, as zlib does.
+    const auto run = wrapper == Wrapper::gzip ? libdeflate_gzip_decompress : libdeflate_zlib_decompress;
     // A whole gzip stream is exactly as long as it announces (unless it passes 4 GiB, when
     // the room runs out and zlib takes over).
     const size_t limit = wrapper == Wrapper::gzip ? std::min(maxSize, announcedSize(data, size)) : maxSize;
     size_t room = size > limit / trustedRatio ? limit : size * trustedRatio;
-    FastInflater inflater;
     for (;;) {
         out.clear();
         out.resize(std::max<size_t>(room, 1)); // never a null buffer, even for nothing
         size_t produced = 0;
-        switch (inflater.run(wrapper, out.data(), room, data, size, produced)) {
-        case Attempt::done:
+        switch (run(decompressor.get(), data, size, out.data(), room, &produced)) {
+        case LIBDEFLATE_SUCCESS:
             out.resize(produced);
             return true;
-        case Attempt::needsRoom:
+        case LIBDEFLATE_INSUFFICIENT_SPACE: // all well so far: more room, up to the limit
             if (room == limit)
                 return false;
             room = room > limit / roomGrowth ? limit : room * roomGrowth;
             break;
-        case Attempt::failed:
+        default: // corrupt, cut short, ...: zlib tells which
             return false;
         }
     }

@@ -21,10 +21,10 @@ void check(Compression compression);
 void compress(Compression compression, std::vector<char>& out, const char* data, size_t size);
 
 // Inflates a whole, well-formed gzip or zlib stream of at most `maxSize` bytes into `out` with
-// the fastest engine built in, and returns true. Returns false, `out` unspecified, when there
-// is no such engine or the input is anything else (corrupt, cut short, beyond the limit, a
-// gzip header with a header CRC, too large for the engine): zlib then inflates it, and so
-// gives the same prefix, limit and message it always gives.
+// libdeflate, and returns true. Returns false, `out` unspecified, when libdeflate is not built
+// in or the input is anything else (corrupt, cut short, beyond the limit, a gzip header with a
+// header CRC): zlib then inflates it, and so gives the same prefix, limit and message it
+// always gives.
 bool inflate(std::vector<char>& out, const char* data, size_t size, size_t maxSize);
 
 } // namespace hrm::deflate_engines
