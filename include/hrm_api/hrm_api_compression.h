@@ -79,8 +79,8 @@ public:
     // data exceeds the size limit") before more than `maxSize` + 1 bytes are allocated for
     // it. `out` is unspecified after an exception.
     // A whole, well-formed stream within the limit is inflated by libdeflate when it is built
-    // in (2.5 times zlib's speed); everything else is left to zlib, so that the result, the
-    // limit and the messages are the same either way.
+    // in (the faster inflater); everything else is left to zlib, so that the result, the limit
+    // and the messages are the same either way.
     static void decompress(std::vector<char>& out, const char* data, size_t size,
                            size_t maxSize = decompressedSizeLimit());
     static void decompress(std::string& out, const char* data, size_t size,

@@ -11,6 +11,7 @@
 #include <array>
 #include <atomic>
 #include <limits>
+#include <mutex>
 #include <stdexcept>
 #include <type_traits>
 
@@ -43,7 +44,9 @@ struct Input
 };
 
 std::atomic<size_t> decompressedSizeLimit{Compressor::defaultDecompressedSizeLimit};
-std::atomic<Compression> compression{Compression{}};
+// A mutex rather than an atomic: an atomic of the struct would need libatomic with clang.
+std::mutex compressionMutex;
+Compression compression;
 
 // Points zlib's output at up to `chunk` bytes of `out` after `total`, staying within the
 // vector's capacity while it has any left; a full vector grows by at least `chunk` and at
@@ -246,11 +249,13 @@ size_t Compressor::decompressedSizeLimit()
 void Compressor::setCompression(Compression compression)
 {
     deflate_engines::check(compression);
+    const std::lock_guard<std::mutex> lock(compressionMutex);
     hrm::compression = compression;
 }
 
 Compression Compressor::compression()
 {
+    const std::lock_guard<std::mutex> lock(compressionMutex);
     return hrm::compression;
 }
 
