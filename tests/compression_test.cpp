@@ -38,6 +38,11 @@ Bytes wordBytes(size_t size)
     return data;
 }
 
+Bytes bytesOf(const char* text, size_t size)
+{
+    return Bytes(text, text + size);
+}
+
 Bytes compressed(const Bytes& data, int level = -1)
 {
     Bytes out;
@@ -315,10 +320,17 @@ TEST(Compressor, TruncatedStreamsGiveAPrefixAndCorruptOnesThrow)
 
     // 100 times "a" with the right CRC and size, in a block whose literal/length code is
     // incomplete (two codes of two bits): zlib refuses it, and so must a faster inflater.
-    Bytes incompleteCode{'\x1F', '\x8B', 8, 0, 0, 0, 0, 0, 0, 3, 0x05, '\xC0', 0x01, 0x09, 0, 0, 0, '\x80', '\xA0', '\xAD', '\xFD', 0x3F, '\x91'};
+    Bytes incompleteCode = bytesOf("\x1F\x8B\x08\0\0\0\0\0\0\x03\x05\xC0\x01\x09\0\0\0\x80\xA0\xAD\xFD\x3F\x91", 23);
     incompleteCode.resize(incompleteCode.size() + 25, 0);
-    incompleteCode.insert(incompleteCode.end(), {0x02, 0x64, 0x7A, 0x70, '\xAF', 0x64, 0, 0, 0});
+    const Bytes trailer = bytesOf("\x02\x64\x7A\x70\xAF\x64\0\0\0", 9);
+    incompleteCode.insert(incompleteCode.end(), trailer.begin(), trailer.end());
     EXPECT_EQ(zlibMessage(incompleteCode), "invalid literal/lengths set");
+    // Code lengths that run past the count the block header gives, and the trailer of nothing:
+    // libdeflate takes it, zlib refuses it.
+    const Bytes overrun = bytesOf("\x1F\x8B\x08\0\0\0\0\0\x04\x03\xED\xD0\x31\x01\0\0\0\xC2\xA0\xF5\x4F\x6D\x0D"
+                                  "\x0F\x88\x38\0\0\0\0\0\0\0\0",
+                                  34);
+    EXPECT_EQ(zlibMessage(overrun), "invalid bit length repeat");
 
     EXPECT_EQ(failureOf([&] { compressed(data, 10); }), "deflate init failed");
 }

@@ -189,22 +189,30 @@ void compress(Compression compression, std::vector<char>& out, const char* data,
 
 #if defined(HRM_WITH_LIBDEFLATE)
 
-// libdeflate alone: igzip's inflate would be fast too, but it takes streams that zlib refuses
-// (incomplete Huffman codes, a zlib header asking for a window beyond 32 KiB, reserved gzip
-// flags), and the checksums do not catch that.
+// libdeflate alone: igzip's inflate would be fast too, but it takes far more streams that zlib
+// refuses (incomplete Huffman codes, a zlib header asking for a window beyond 32 KiB, reserved
+// gzip flags). libdeflate takes only a few malformed block headers that zlib refuses (a run of
+// code lengths past the count the header gives), and then still checks the CRC-32 and size,
+// or the Adler-32, of what came out; an empty result, whose checksums prove nothing, goes to
+// zlib all the same.
 bool inflate(std::vector<char>& out, const char* data, size_t size, size_t maxSize)
 {
     Wrapper wrapper;
     if (!libdeflateWrapper(data, size, wrapper))
         return false;
+    // A whole gzip stream is exactly as long as it announces, modulo 4 GiB: one that announces
+    // more than the limit is too large or lies, which zlib tells apart.
+    size_t limit = maxSize;
+    if (wrapper == Wrapper::gzip) {
+        limit = announcedSize(data, size);
+        if (limit > maxSize)
+            return false;
+    }
     const std::unique_ptr<libdeflate_decompressor, FreeLibdeflate> decompressor(libdeflate_alloc_decompressor());
     if (!decompressor)
         return false;
     // Both stop at the end of the stream and ignore what follows it, as zlib does.
     const auto run = wrapper == Wrapper::gzip ? libdeflate_gzip_decompress : libdeflate_zlib_decompress;
-    // A whole gzip stream is exactly as long as it announces (unless it passes 4 GiB, when
-    // the room runs out and zlib takes over).
-    const size_t limit = wrapper == Wrapper::gzip ? std::min(maxSize, announcedSize(data, size)) : maxSize;
     size_t room = size > limit / trustedRatio ? limit : size * trustedRatio;
     for (;;) {
         out.clear();
@@ -213,7 +221,7 @@ bool inflate(std::vector<char>& out, const char* data, size_t size, size_t maxSi
         switch (run(decompressor.get(), data, size, out.data(), room, &produced)) {
         case LIBDEFLATE_SUCCESS:
             out.resize(produced);
-            return true;
+            return produced != 0;
         case LIBDEFLATE_INSUFFICIENT_SPACE: // all well so far: more room, up to the limit
             if (room == limit)
                 return false;
