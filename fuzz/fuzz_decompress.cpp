@@ -27,16 +27,16 @@ std::pair<std::vector<char>, std::string> zlibAlone(const char* data, size_t siz
 {
     if (size == 0)
         return {};
-    std::vector<char> out(sizeLimit + 1);
+    static std::vector<char> room(sizeLimit + 1); // kept: filling a new one costs more than the rest
     z_stream stream{};
     if (inflateInit2(&stream, 15 + 32) != Z_OK)
         return {{}, "inflate init failed"};
     stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(data));
     stream.avail_in = static_cast<uInt>(size);
-    stream.next_out = reinterpret_cast<Bytef*>(out.data());
-    stream.avail_out = static_cast<uInt>(out.size());
+    stream.next_out = reinterpret_cast<Bytef*>(room.data());
+    stream.avail_out = static_cast<uInt>(room.size());
     const int result = inflate(&stream, Z_FINISH);
-    out.resize(stream.total_out);
+    std::vector<char> out(room.begin(), room.begin() + static_cast<std::ptrdiff_t>(stream.total_out));
     std::string error;
     if (result != Z_OK && result != Z_STREAM_END && result != Z_BUF_ERROR)
         error = stream.msg ? stream.msg : zError(result);
