@@ -7,6 +7,10 @@
 
 #include "hrm_api/hrm_api_json_members.h"
 
+#include <hrm_api/hrm_api_enums.h>
+
+#include <array>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,40 +25,43 @@ public:
     bool binary() const override { return true; }
     bool compress() const override { return true; }
 
-    void readObject(const JsonValue& value) override
+    template <class Members>
+    void members(Members& m)
     {
-        JsonObjectReader(value, "BinaryObject")
-            .string(L"text", text)
+        m.string(L"text", text)
             .uint64(L"number", number)
             .int32(L"count", count)
-            .real(L"real", real)
+            .storedDouble(L"real", real)
+            .number(L"measure", measure)
             .boolean(L"flag", flag)
             .strings(L"words", words)
+            .enumeration(L"unit", unit)
             .object(L"progress", progress)
-            .objects(L"messages", messages);
+            .child(L"note", note)
+            .children(L"messages", messages)
+            .exactly(L"pair", pair, "BinaryObject: invalid size of pair array")
+            .leading(L"color", color)
+            .packed(L"vertices", vertices)
+            .packed(L"indices", indices);
     }
-
-    void writeObject(JsonValue& value, JsonAllocator& allocator) const override
-    {
-        JsonObjectWriter(value, allocator)
-            .string(L"text", text)
-            .uint64(L"number", number)
-            .int32(L"count", count)
-            .real(L"real", real)
-            .boolean(L"flag", flag)
-            .strings(L"words", words)
-            .object(L"progress", progress)
-            .objects(L"messages", messages);
-    }
+    void readObject(const JsonValue& value) override { readMembers(*this, value, "BinaryObject"); }
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override { writeMembers(*this, value, allocator); }
 
     std::wstring text;
     uint64_t number = 0;
     int32_t count = 0;
     double real = 0.0;
+    double measure = 0.0;
     bool flag = false;
     std::vector<std::wstring> words;
+    ELengthUnitType unit = ELengthUnitType::Unknown;
     ExcProgress progress;
+    std::shared_ptr<ExcMessage> note;
     std::vector<std::shared_ptr<ExcMessage>> messages;
+    std::array<double, 2> pair{};
+    std::array<double, 4> color{};
+    std::vector<float> vertices;
+    std::vector<int32_t> indices;
 };
 
 // The name of the shared-memory buffer that holds the payload of an envelope input.

@@ -214,6 +214,13 @@ void envelopes()
     object.words = {L"a", L"b"};
     object.progress.setProgress(7);
     object.messages = {std::make_shared<ExcMessage>(L"one"), std::make_shared<ExcMessage>(L"two")};
+    object.measure = 3;
+    object.unit = ELengthUnitType::Inch;
+    object.note = std::make_shared<ExcMessage>(L"note");
+    object.pair = {0.5, -1.5};
+    object.color = {1.0, 0.5, 0.25, 1.0};
+    object.vertices = {0.0f, 1.5f, -2.25f};
+    object.indices = {0, 1, 2, -1};
     JsonDocument value;
     object.writeObject(value, value.GetAllocator());
     std::vector<char> raw;

@@ -2,6 +2,7 @@
 
 #include "support/expect_message.h"
 #include "support/log_capture.h"
+#include "support/member_suite.h"
 #include "support/round_trip.h"
 
 #include <gtest/gtest.h>
@@ -175,3 +176,45 @@ TEST(ExchangeCommon, TextRoundTripKeepsDoublesDoubles)
 
 } // namespace
 } // namespace hrm
+
+namespace hrm::test {
+
+template <>
+struct MemberCase<ExcTransformation> : MemberCaseDefaults
+{
+    static constexpr bool storedDoubles = true;
+    static ExcTransformation sample()
+    {
+        ExcTransformation transformation;
+        transformation.affine()[0].set(0.0, -1.0, 0.0);
+        transformation.translation().set(10.0, 20.5, -30.0);
+        return transformation;
+    }
+    static std::vector<std::wstring> keys() { return {L"affine", L"translation"}; }
+};
+
+template <>
+struct MemberCase<ExcUnitComponent<ELengthUnitType>> : MemberCaseDefaults
+{
+    static constexpr const char* wrongKindMessage = "ExcUnitComponent object should have a JSON object type.";
+    static ExcUnitComponent<ELengthUnitType> sample()
+    {
+        ExcUnitComponent<ELengthUnitType> unit;
+        unit.setDimension(-2);
+        unit.setUnits(ELengthUnitType::Inch);
+        return unit;
+    }
+    static std::vector<std::wstring> keys() { return {L"dimension", L"units"}; }
+};
+
+template <>
+struct MemberCase<ExcVector3d> : MemberCaseDefaults
+{
+    static constexpr const char* wrongKindMessage = "Exchange vector/point (2D/3D) object should have a JSON array type.";
+    static ExcVector3d sample() { return ExcVector3d(1.0, 1e300, -0.1); }
+};
+
+using ValueTypes = ::testing::Types<ExcTransformation, ExcUnitComponent<ELengthUnitType>, ExcVector3d>;
+INSTANTIATE_TYPED_TEST_SUITE_P(ValueTypes, MemberSuite, ValueTypes);
+
+} // namespace hrm::test

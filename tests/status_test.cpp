@@ -2,6 +2,7 @@
 
 #include "support/expect_message.h"
 #include "support/read_text.h"
+#include "support/member_suite.h"
 #include "support/round_trip.h"
 
 #include <gtest/gtest.h>
@@ -95,3 +96,32 @@ TEST(Result, PrettyDocumentWithOptionalMessage)
 
 } // namespace
 } // namespace hrm
+
+namespace hrm::test {
+
+template <>
+struct MemberCase<ExcProgress> : MemberCaseDefaults
+{
+    static ExcProgress sample()
+    {
+        ExcProgress progress;
+        progress.setProgress(3);
+        progress.setProgressMax(7);
+        progress.setPulse(true);
+        progress.setStage(L"Tessellation \u00e9");
+        return progress;
+    }
+    static std::vector<std::wstring> keys() { return {L"progress", L"progress_max", L"pulse", L"stage"}; }
+};
+
+template <>
+struct MemberCase<ExcLog> : MemberCaseDefaults
+{
+    static ExcLog sample() { return ExcLog(L"Warning: \U0001F600 face 12 was healed"); }
+    static std::vector<std::wstring> keys() { return {L"message"}; }
+};
+
+using StatusObjects = ::testing::Types<ExcProgress, ExcLog>;
+INSTANTIATE_TYPED_TEST_SUITE_P(StatusObjects, MemberSuite, StatusObjects);
+
+} // namespace hrm::test

@@ -3,6 +3,7 @@
 // The command document: the request the host sends to the translator service.
 
 #include <hrm_api/hrm_api_command_options.h>
+#include <hrm_api/hrm_api_enum.h>
 #include <hrm_api/hrm_api_export.h>
 #include <hrm_api/hrm_api_legacy_options.h>
 #include <mp/mp_serializable.h>
@@ -89,3 +90,6 @@ private:
 };
 
 } // namespace hrm
+
+HRM_DECLARE_ENUM_STRINGS(hrm::EHermetorInterface)
+HRM_DECLARE_ENUM_STRINGS(hrm::Command::EType)

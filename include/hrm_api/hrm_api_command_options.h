@@ -15,8 +15,6 @@
 
 namespace hrm {
 
-class OptionsKeyTable; // an options class's keys, in the order written and read (inside the library)
-
 // How one file format (or one common aspect: general, graphical, mechanical, modeler) is to be
 // translated. The object's JSON starts with its head, "operation_type" and "format_type".
 class HRM_API IFormatOptions : public IJsonObject
@@ -35,9 +33,8 @@ public:
     static std::shared_ptr<IFormatOptions> readOptions(const JsonValue& value);
 
 protected:
-    // The whole reading and writing of an options class: the head, then each key of `table`.
-    void readKeys(const JsonValue& value, const OptionsKeyTable& table);
-    void writeKeys(JsonValue& value, JsonAllocator& allocator, const OptionsKeyTable& table) const;
+    // The head, the first members of every options class.
+    HRM_MEMBER_LIST;
 };
 
 // Two options objects are equal when they write the same JSON.
@@ -62,9 +59,8 @@ public:
 };
 } // namespace exp
 
-// Every options class derives from FormatOptionsBase<itself, operation, format> and gives
-// its key table as `static const OptionsKeyTable& keyTable()`; reading and writing follow
-// that table.
+// Every options class derives from FormatOptionsBase<itself, operation, format>, which gives
+// it its types; its members (the head, then its own keys) are listed in the library's sources.
 template <EOperationType Operation>
 using FormatOptionsInterface = std::conditional_t<Operation == EOperationType::Import, imp::FormatOptions,
     std::conditional_t<Operation == EOperationType::Export, exp::FormatOptions, IFormatOptions>>;
@@ -73,11 +69,6 @@ template <class Derived, EOperationType Operation, EFormatType Format>
 class FormatOptionsBase : public FormatOptionsInterface<Operation>
 {
 public:
-    void readObject(const JsonValue& value) override { this->readKeys(value, Derived::keyTable()); }
-    void writeObject(JsonValue& value, JsonAllocator& allocator) const override
-    {
-        this->writeKeys(value, allocator, Derived::keyTable());
-    }
     EFormatType formatType() const override { return Format; }
     EOperationType operationType() const override { return Operation; }
 };

@@ -114,6 +114,11 @@ public:
         return text;
     }
 
+    // Writes the encodedSize(bytes) characters of the `bytes` bytes at `src` to `dest`;
+    // returns that count.
+    static size_t encodeInto(char* dest, const void* src, size_t bytes) { return encodeImpl(dest, src, bytes); }
+    static size_t encodeInto(wchar_t* dest, const void* src, size_t bytes) { return encodeImpl(dest, src, bytes); }
+
     // Replaces `out` with the data decoded from the `length` characters at `text`; returns
     // the characters consumed.
     template <typename Container, typename Char>

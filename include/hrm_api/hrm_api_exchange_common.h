@@ -117,6 +117,8 @@ public:
     bool operator!=(const ExcTransformation& other) const { return !(*this == other); }
 
 private:
+    HRM_MEMBER_LIST;
+
     ExcMatrix3d m_affine;
     ExcVector3d m_translation;
 };
@@ -189,6 +191,8 @@ public:
     bool operator!=(const ExcUnitComponent& other) const { return !(*this == other); }
 
 private:
+    HRM_MEMBER_LIST;
+
     int32_t m_dimension = 0;
     E m_units = static_cast<E>(0);
 };

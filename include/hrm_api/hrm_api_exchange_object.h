@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace hrm {
 
@@ -24,7 +25,7 @@ public:
 
     // The type name, the same string as the class's static objName().
     virtual const std::wstring& objectName() const = 0;
-    // A new, default-constructed object of the same class (the data is not copied).
+    // A new object of the same class: default-constructed, or a copy where the class says so.
     virtual std::shared_ptr<IExchangeObject> clone() const = 0;
     // Whether the object travels in shared memory rather than inside its envelope.
     virtual bool binary() const { return false; }
@@ -56,6 +57,14 @@ protected:
     bool m_loaded = false; // set once load() has read the source
 };
 
+// How an exchange object class makes the fresh object the registry hands out for its type
+// name: a default-constructed object, or a copy of the prototype.
+enum class Cloning
+{
+    Fresh,
+    Copy,
+};
+
 // Gives a concrete exchange object class its type-name boilerplate. The class derives from
 // ExchangeObjectType<Itself, Base> and names its type once:
 //
@@ -66,8 +75,9 @@ protected:
 //       using ExchangeObjectType::ExchangeObjectType;
 //   };
 //
-// and one source of the library registers its prototype: HRM_REGISTER_EXCHANGE_OBJECT(ExcMessage).
-template <class Derived, class Base = IExchangeObject>
+// The library's own types are listed in its registry's source; a type of the application's
+// registers a prototype with HRM_REGISTER_EXCHANGE_OBJECT(T).
+template <class Derived, class Base = IExchangeObject, Cloning cloning = Cloning::Fresh>
 class ExchangeObjectType : public Base
 {
 public:
@@ -79,12 +89,20 @@ public:
         return name;
     }
     const std::wstring& objectName() const override { return objName(); }
-    std::shared_ptr<IExchangeObject> clone() const override { return std::make_shared<Derived>(); }
+    std::shared_ptr<IExchangeObject> clone() const override
+    {
+        if constexpr (cloning == Cloning::Copy)
+            return std::make_shared<Derived>(static_cast<const Derived&>(*this));
+        else
+            return std::make_shared<Derived>();
+    }
 };
 
 // The process-wide map from type name to a registered prototype, ordered by UTF-16 code
-// units. It does not own the prototypes. Filled during static initialisation and read-only
-// afterwards; it has no lock.
+// units. It holds the library's own types from its first use on (they are listed in one
+// place, so that a static build registers every one) and the application's types registered
+// during static initialisation; read-only afterwards, it has no lock. It does not own the
+// application's prototypes.
 class HRM_API ExchangeObjectRegistry
 {
 public:
@@ -101,6 +119,8 @@ public:
     void remove(IExchangeObject* prototype);
     // A fresh object of the named type (the prototype's clone()), or null for an unknown name.
     std::shared_ptr<IExchangeObject> get(const std::wstring& name) const;
+    // The registered type names, in the registry's order.
+    std::vector<std::wstring> names() const;
 
 private:
     ExchangeObjectRegistry();
@@ -176,7 +196,12 @@ public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    bool operator==(const ExcMessageBase& other) const { return m_message == other.m_message; }
+    bool operator!=(const ExcMessageBase& other) const { return !(*this == other); }
+
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_message;
 };
 
@@ -220,6 +245,8 @@ public:
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
 private:
+    HRM_MEMBER_LIST;
+
     int32_t m_progress = 0;
     int32_t m_progressMax = 100;
     bool m_pulse = false;
@@ -254,6 +281,9 @@ public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    bool operator==(const ExcStageFinished& other) const { return m_stage == other.m_stage; }
+    bool operator!=(const ExcStageFinished& other) const { return !(*this == other); }
+
 private:
     EStage m_stage = EStage::Unknown;
 };
@@ -286,6 +316,12 @@ public:
     // field, and "is_finished" is true only for the literal true.
     void readObject(std::wistream& in) override;
 
+    bool operator==(const Result& other) const
+    {
+        return m_code == other.m_code && m_message == other.m_message && m_finished == other.m_finished;
+    }
+    bool operator!=(const Result& other) const { return !(*this == other); }
+
 private:
     ECode m_code = ECode::Ok;
     std::wstring m_message;
@@ -312,6 +348,9 @@ public:
     bool addInstanceName(const OdDbHandle& handle, const std::wstring& name);
     // Adds the entries of `other` whose handles are not yet present.
     void merge(const LegacyComponentInstanceNames& other);
+
+    bool operator==(const LegacyComponentInstanceNames& other) const { return m_map == other.m_map; }
+    bool operator!=(const LegacyComponentInstanceNames& other) const { return !(*this == other); }
 
     // Throws std::invalid_argument when `value` is not an array; skips malformed elements.
     void readObject(const JsonValue& value) override;
@@ -348,6 +387,9 @@ public:
     // Adds the entries of `other` whose handles are not yet present.
     void merge(const LegacyMaterialMap& other);
 
+    bool operator==(const LegacyMaterialMap& other) const { return m_map == other.m_map; }
+    bool operator!=(const LegacyMaterialMap& other) const { return !(*this == other); }
+
     // Throws std::invalid_argument when `value` is not an array; skips malformed elements.
     // The three physical values are taken only when stored as doubles (7800.0, not 7800).
     void readObject(const JsonValue& value) override;
@@ -360,6 +402,7 @@ private:
 } // namespace hrm
 
 HRM_DECLARE_ENUM_STRINGS(hrm::ExcStageFinished::EStage)
+HRM_DECLARE_ENUM_STRINGS(hrm::Result::ECode)
 
 // Defines the static prototype that registers exchange object class T (at namespace scope, in
 // one source file).

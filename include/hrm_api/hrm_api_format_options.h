@@ -39,7 +39,8 @@ namespace hrm {
 class HRM_API OptionsGeneral final : public FormatOptionsBase<OptionsGeneral, EOperationType::Options, EFormatType::General>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     ELogEventLevelType logEventLevel() const { return m_logEventLevel; }
     void setLogEventLevel(ELogEventLevelType value) { m_logEventLevel = value; }
@@ -55,6 +56,8 @@ public:
     void setMemoryManagementMode(EMemoryManagementModeFlags value) { m_memoryManagementMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     ELogEventLevelType m_logEventLevel{};
     ELogFileEncodingType m_logFileEncoding{};
     std::wstring m_logFileName;
@@ -70,7 +73,8 @@ class HRM_API OptionsGraphical final
     : public FormatOptionsBase<OptionsGraphical, EOperationType::Options, EFormatType::Graphical>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     double tessellation2dSagValue() const { return m_tessellation2dSagValue; }
     void setTessellation2dSagValue(double value) { m_tessellation2dSagValue = value; }
@@ -86,6 +90,8 @@ public:
     void setVisuTextStrokingMode(EVisuTextStrokingMode value) { m_visuTextStrokingMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     double m_tessellation2dSagValue = 0.0;
     double m_tessellation3dSagValue = 0.0;
     ETranslateReferenceGeometryMode m_translateReferenceGeometryMode{};
@@ -99,7 +105,8 @@ class HRM_API OptionsMechanical final
     : public FormatOptionsBase<OptionsMechanical, EOperationType::Options, EFormatType::Mechanical>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EFeatureToleranceProcessingModeType featureToleranceProcessingMode() const { return m_featureToleranceProcessingMode; }
     void setFeatureToleranceProcessingMode(EFeatureToleranceProcessingModeType value) { m_featureToleranceProcessingMode = value; }
@@ -107,6 +114,8 @@ public:
     void setMiscDataProcessingMode(EMiscDataProcessingModeType value) { m_miscDataProcessingMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EFeatureToleranceProcessingModeType m_featureToleranceProcessingMode{};
     EMiscDataProcessingModeType m_miscDataProcessingMode{};
 };
@@ -117,7 +126,8 @@ private:
 class HRM_API OptionsModeler final : public FormatOptionsBase<OptionsModeler, EOperationType::Options, EFormatType::Modeler>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EAcisSplineResurfacingModeType splineResurfacingMode() const { return m_splineResurfacingMode; }
     void setSplineResurfacingMode(EAcisSplineResurfacingModeType value) { m_splineResurfacingMode = value; }
@@ -139,6 +149,8 @@ public:
     void setTopologicalEntityInspectorMode(ETopologicalEntityInspectorModeType value) { m_topologicalEntityInspectorMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EAcisSplineResurfacingModeType m_splineResurfacingMode{};
     double m_splineResurfacingTolerance = 0.0;
     EAttributeProcessingModeType m_attributeProcessingMode{};
@@ -205,12 +217,15 @@ protected:
 class HRM_API Options3DXML final : public FormatOptionsBase<Options3DXML, EOperationType::Import, EFormatType::XML3D>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
     void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EVisuPMIProcessingMode m_visuPMIMode{};
 };
 
@@ -218,7 +233,8 @@ private:
 class HRM_API OptionsCatiaV4 final : public FormatOptionsBase<OptionsCatiaV4, EOperationType::Import, EFormatType::CatiaV4>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EImportEntities importEntities() const { return m_importEntities; }
     void setImportEntities(EImportEntities value) { m_importEntities = value; }
@@ -228,6 +244,8 @@ public:
     void setLayerFilter(const std::wstring& value) { m_layerFilter = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EImportEntities m_importEntities{};
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
     std::wstring m_layerFilter;
@@ -243,7 +261,8 @@ class HRM_API OptionsCatiaV5 final : public FormatOptionsBase<OptionsCatiaV5, EO
                                      public PersistentNameModes
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EAssemblyPathPrefType assemblyPathPref() const { return m_assemblyPathPref; }
     void setAssemblyPathPref(EAssemblyPathPrefType value) { m_assemblyPathPref = value; }
@@ -267,6 +286,8 @@ public:
     void setDocDelayLoadingMode(EDocumentDelayLoadingMode value) { m_docDelayLoadingMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EAssemblyPathPrefType m_assemblyPathPref{};
     EProcessInWorkObjectModeType m_inWorkObjectMode{};
     ENameProcessingModeType m_nameProcessingMode{};
@@ -284,7 +305,8 @@ class HRM_API OptionsCatiaV5Drawing final
     : public FormatOptionsBase<OptionsCatiaV5Drawing, EOperationType::Import, EFormatType::CatiaV5Drawing>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
     void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
@@ -292,6 +314,8 @@ public:
     void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
     EVisuPMIProcessingMode m_visuPMIMode{};
 };
@@ -305,7 +329,8 @@ class HRM_API OptionsCreo final : public FormatOptionsBase<OptionsCreo, EOperati
                                   public PersistentNameModes
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     const std::wstring& alternateSearchPaths() const { return m_alternateSearchPaths; }
     void setAlternateSearchPaths(const std::wstring& value) { m_alternateSearchPaths = value; }
@@ -325,6 +350,8 @@ public:
     void setReferenceGeometryMode(ETranslateReferenceGeometryMode value) { m_referenceGeometryMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_alternateSearchPaths;
     std::wstring m_configurationName;
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
@@ -339,7 +366,8 @@ private:
 class HRM_API OptionsIGES final : public FormatOptionsBase<OptionsIGES, EOperationType::Import, EFormatType::IGES>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EImportEntities importEntities() const { return m_importEntities; }
     void setImportEntities(EImportEntities value) { m_importEntities = value; }
@@ -351,6 +379,8 @@ public:
     void setTrimCurveImportPreference(ETrimCurveImportPreferenceModeType value) { m_trimCurveImportPreference = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EImportEntities m_importEntities{};
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
     ECopiousDataModeType m_copiousDataMode{};
@@ -366,7 +396,8 @@ class HRM_API OptionsInventor final : public FormatOptionsBase<OptionsInventor, 
                                       public PersistentNameModes
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     const std::wstring& searchPaths() const { return m_searchPaths; }
     void setSearchPaths(const std::wstring& value) { m_searchPaths = value; }
@@ -380,6 +411,8 @@ public:
     void setActiveStateMode(EActiveStateProcessingModeType value) { m_activeStateMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_searchPaths;
     EAssemblyPathPrefType m_assemblyPathPref{};
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
@@ -394,7 +427,8 @@ class HRM_API OptionsJT final : public FormatOptionsBase<OptionsJT, EOperationTy
                                 public VisualizationSwitches
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EUserPropertiesModeType userPropertiesMode() const { return m_userPropertiesMode; }
     void setUserPropertiesMode(EUserPropertiesModeType value) { m_userPropertiesMode = value; }
@@ -403,6 +437,8 @@ public:
     void setImportVisuLOD(const std::wstring& value) { m_importVisuLOD = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EUserPropertiesModeType m_userPropertiesMode{};
     std::wstring m_importVisuLOD;
 };
@@ -419,7 +455,8 @@ class HRM_API OptionsNX final : public FormatOptionsBase<OptionsNX, EOperationTy
                                 public PersistentNameModes
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     const std::wstring& searchPaths() const { return m_searchPaths; }
     void setSearchPaths(const std::wstring& value) { m_searchPaths = value; }
@@ -439,6 +476,8 @@ public:
     void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_searchPaths;
     EAssemblyPathPrefType m_assemblyPathPref{};
     std::wstring m_configurationName;
@@ -454,12 +493,15 @@ class HRM_API OptionsParasolid final
     : public FormatOptionsBase<OptionsParasolid, EOperationType::Import, EFormatType::Parasolid>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
     void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
 };
 
@@ -471,7 +513,8 @@ class HRM_API OptionsSolidEdge final : public FormatOptionsBase<OptionsSolidEdge
                                        public PersistentNameModes
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     const std::wstring& assemblySearchPaths() const { return m_assemblySearchPaths; }
     void setAssemblySearchPaths(const std::wstring& value) { m_assemblySearchPaths = value; }
@@ -481,6 +524,8 @@ public:
     void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType value) { m_hiddenEntitiesMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_assemblySearchPaths;
     EAssemblyPathPrefType m_assemblyPathPref{};
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
@@ -496,7 +541,8 @@ class HRM_API OptionsSolidWorks final
       public PersistentNameModes
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     const std::wstring& searchPaths() const { return m_searchPaths; }
     void setSearchPaths(const std::wstring& value) { m_searchPaths = value; }
@@ -512,6 +558,8 @@ public:
     void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_searchPaths;
     EAssemblyPathPrefType m_assemblyPathPref{};
     std::wstring m_configurationName;
@@ -525,7 +573,11 @@ class HRM_API OptionsSolidWorksDrawing final
     : public FormatOptionsBase<OptionsSolidWorksDrawing, EOperationType::Import, EFormatType::SolidWorksDrawing>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+private:
+    HRM_MEMBER_LIST;
 };
 
 // Keys: "visu_pmi_mode", "import_geometry", "import_visualization", "import_root_visualization".
@@ -534,12 +586,15 @@ class HRM_API OptionsSTEP final : public FormatOptionsBase<OptionsSTEP, EOperati
                                   public VisualizationSwitches
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
     void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EVisuPMIProcessingMode m_visuPMIMode{};
 };
 
@@ -549,12 +604,15 @@ class HRM_API OptionsXCGM final : public FormatOptionsBase<OptionsXCGM, EOperati
                                   public VisualizationSwitches
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EVisuPMIProcessingMode visuPMIMode() const { return m_visuPMIMode; }
     void setVisuPMIMode(EVisuPMIProcessingMode value) { m_visuPMIMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EVisuPMIProcessingMode m_visuPMIMode{};
 };
 

@@ -18,7 +18,8 @@ namespace hrm::exp {
 class HRM_API Options3DXML final : public FormatOptionsBase<Options3DXML, EOperationType::Export, EFormatType::XML3D>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EDefaultColorMode defaultColorMode() const { return m_defaultColorMode; }
     void setDefaultColorMode(EDefaultColorMode value) { m_defaultColorMode = value; }
@@ -26,6 +27,8 @@ public:
     void setGraphicalPMIContainerMode(EGraphicalPMIContainerMode value) { m_graphicalPMIContainerMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EDefaultColorMode m_defaultColorMode{};
     EGraphicalPMIContainerMode m_graphicalPMIContainerMode{};
 };
@@ -34,12 +37,15 @@ private:
 class HRM_API OptionsAcis final : public FormatOptionsBase<OptionsAcis, EOperationType::Export, EFormatType::ACIS>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     ELengthUnitType units() const { return m_units; }
     void setUnits(ELengthUnitType value) { m_units = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     ELengthUnitType m_units{};
 };
 
@@ -47,7 +53,8 @@ private:
 class HRM_API OptionsCatiaV4 final : public FormatOptionsBase<OptionsCatiaV4, EOperationType::Export, EFormatType::CatiaV4>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     const std::wstring& authorName() const { return m_authorName; }
     void setAuthorName(const std::wstring& value) { m_authorName = value; }
@@ -59,6 +66,8 @@ public:
     void setEdgeCurveMode(EEdgeCurveMode value) { m_edgeCurveMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_authorName;
     std::wstring m_modelName;
     EExportVersionCatiaV4 m_version{};
@@ -69,7 +78,8 @@ private:
 class HRM_API OptionsCatiaV5 final : public FormatOptionsBase<OptionsCatiaV5, EOperationType::Export, EFormatType::CatiaV5>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EDefaultColorMode defaultColorMode() const { return m_defaultColorMode; }
     void setDefaultColorMode(EDefaultColorMode value) { m_defaultColorMode = value; }
@@ -77,6 +87,8 @@ public:
     void setCgrCompatibilityMode(EExportCgrCompatibilityMode value) { m_cgrCompatibilityMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EDefaultColorMode m_defaultColorMode{};
     EExportCgrCompatibilityMode m_cgrCompatibilityMode{};
 };
@@ -85,12 +97,15 @@ private:
 class HRM_API OptionsIGES final : public FormatOptionsBase<OptionsIGES, EOperationType::Export, EFormatType::IGES>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     ELengthUnitType units() const { return m_units; }
     void setUnits(ELengthUnitType value) { m_units = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     ELengthUnitType m_units{};
 };
 
@@ -99,14 +114,19 @@ class HRM_API OptionsParasolid final
     : public FormatOptionsBase<OptionsParasolid, EOperationType::Export, EFormatType::Parasolid>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+private:
+    HRM_MEMBER_LIST;
 };
 
 // Keys: "units", "version", "tolerance", "layer_name_mode".
 class HRM_API OptionsSTEP final : public FormatOptionsBase<OptionsSTEP, EOperationType::Export, EFormatType::STEP>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     ELengthUnitType units() const { return m_units; }
     void setUnits(ELengthUnitType value) { m_units = value; }
@@ -119,6 +139,8 @@ public:
     void setLayerNameMode(ELayerNameProcessingModeType value) { m_layerNameMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     ELengthUnitType m_units{};
     EExportVersionStep m_version{};
     double m_fileTolerance = 0.0;
@@ -129,7 +151,8 @@ private:
 class HRM_API OptionsXCGM final : public FormatOptionsBase<OptionsXCGM, EOperationType::Export, EFormatType::XCGM>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EDefaultColorMode defaultColorMode() const { return m_defaultColorMode; }
     void setDefaultColorMode(EDefaultColorMode value) { m_defaultColorMode = value; }
@@ -137,6 +160,8 @@ public:
     void setGraphicalPMIContainerMode(EGraphicalPMIContainerMode value) { m_graphicalPMIContainerMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EDefaultColorMode m_defaultColorMode{};
     EGraphicalPMIContainerMode m_graphicalPMIContainerMode{};
 };
@@ -145,12 +170,15 @@ private:
 class HRM_API OptionsSTL final : public FormatOptionsBase<OptionsSTL, EOperationType::Export, EFormatType::STL>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     EExportSaveMode saveMode() const { return m_saveMode; }
     void setSaveMode(EExportSaveMode value) { m_saveMode = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     EExportSaveMode m_saveMode{};
 };
 
@@ -158,7 +186,8 @@ private:
 class HRM_API OptionsPDF final : public FormatOptionsBase<OptionsPDF, EOperationType::Export, EFormatType::PDF3D>
 {
 public:
-    static const OptionsKeyTable& keyTable();
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
     // The document's title and author, as its properties show them.
     const std::wstring& title() const { return m_title; }
@@ -174,6 +203,8 @@ public:
     void setBackgroundColor(const ExcColor& value) { m_backgroundColor = value; }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_title;
     std::wstring m_authorName;
     ELengthUnitType m_units{};

@@ -39,6 +39,8 @@ public:
     bool operator!=(const ThirdpartyCore& other) const { return !(*this == other); }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_name;
     std::wstring m_version;
 };
@@ -78,6 +80,8 @@ public:
     bool operator!=(const Format& other) const { return !(*this == other); }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_description;
     std::vector<std::wstring> m_extensions;
     std::vector<std::wstring> m_filterExtensions;
@@ -133,6 +137,8 @@ public:
     bool operator!=(const HermetorInfo& other) const { return !(*this == other); }
 
 private:
+    HRM_MEMBER_LIST;
+
     std::wstring m_name;
     std::wstring m_version;
     EHermetorInterface m_requestedInterface = EHermetorInterface::UConnect;
@@ -144,3 +150,5 @@ private:
 };
 
 } // namespace hrm
+
+HRM_DECLARE_ENUM_STRINGS(hrm::EParasolidMode)

@@ -24,6 +24,8 @@
 
 namespace hrm {
 
+class MemberAccess; // the library's member layer
+
 // Wide text in memory is the platform's native wide text: UTF-16 code units where wchar_t
 // has 16 bits (Windows), Unicode code points where it has 32 (Linux).
 #if WCHAR_MAX <= 0xFFFF
@@ -51,6 +53,13 @@ protected:
     IJsonObject(const IJsonObject&) = default;
     IJsonObject& operator=(const IJsonObject&) = default;
 };
+
+// Declares, inside a class, the list of its JSON members that the library's sources define once
+// for both directions (reading and writing), and opens it to the member layer.
+#define HRM_MEMBER_LIST                                                          \
+    template <class Members>                                                     \
+    void members(Members& m);                                                    \
+    friend class ::hrm::MemberAccess
 
 // Writes and reads whole JSON documents as wide text.
 class HRM_API JsonTextIO

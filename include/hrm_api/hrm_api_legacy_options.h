@@ -134,7 +134,7 @@ public:
     bool operator!=(const LegacyImportOptionsImpl& other) const { return !(*this == other); }
 
 private:
-    static const OptionsKeyTable& keyTable();
+    HRM_MEMBER_LIST;
 
     std::wstring m_file;
     std::wstring m_temporaryDwg;
@@ -192,7 +192,7 @@ public:
     bool operator!=(const LegacyExportOptionsImpl& other) const { return !(*this == other); }
 
 private:
-    static const OptionsKeyTable& keyTable();
+    HRM_MEMBER_LIST;
 
     std::wstring m_file;
     ELegacyInsertionUnits m_insertionUnitsTarget{};

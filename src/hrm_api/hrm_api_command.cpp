@@ -1,33 +1,27 @@
 #include <hrm_api/hrm_api_command.h>
 
-#include "hrm_api/hrm_api_command_words.h"
+#include "hrm_api/hrm_api_enum_table.h"
 #include "hrm_api/hrm_api_json_members.h"
 
 #include <stdexcept>
 
 namespace hrm {
+
+// Exact words only: any other word is an Unknown command, not an error.
+HRM_ENUM_STRINGS_UNKNOWN_AS(Command::EType, Command::EType::Unknown,
+    {Command::EType::Unknown, L"unknown"},
+    {Command::EType::Info, L"info"},
+    {Command::EType::Import, L"import"},
+    {Command::EType::Export, L"export"},
+    {Command::EType::Ping, L"ping"})
+
+// Every word but "connect" and "legacy" names UConnect; every other value is written as "uconnect".
+HRM_ENUM_STRINGS_UNKNOWN_AS(EHermetorInterface, EHermetorInterface::UConnect,
+    {EHermetorInterface::UConnect, L"uconnect"},
+    {EHermetorInterface::Connect, L"connect"},
+    {EHermetorInterface::Legacy, L"legacy"})
+
 namespace {
-
-const wchar_t* commandWord(Command::EType type)
-{
-    switch (type) {
-    case Command::EType::Info: return L"info";
-    case Command::EType::Import: return L"import";
-    case Command::EType::Export: return L"export";
-    case Command::EType::Ping: return L"ping";
-    default: return L"unknown";
-    }
-}
-
-// Exact words only; any other word is an Unknown command, not an error.
-Command::EType commandType(const std::wstring& word)
-{
-    for (const auto type : {Command::EType::Ping, Command::EType::Info, Command::EType::Import, Command::EType::Export}) {
-        if (word == commandWord(type))
-            return type;
-    }
-    return Command::EType::Unknown;
-}
 
 // The options object of the interface, cast to its only implementation; throws `message`
 // when there is none.
@@ -38,15 +32,6 @@ const Impl& implementation(const std::shared_ptr<Interface>& options, const char
     if (!impl)
         throw std::invalid_argument(message);
     return *impl;
-}
-
-// A new options object of class Impl, read from `value`.
-template <class Impl>
-std::shared_ptr<Impl> readOptions(const JsonValue& value)
-{
-    auto options = std::make_shared<Impl>();
-    options->readObject(value);
-    return options;
 }
 
 } // namespace
@@ -88,9 +73,9 @@ void Command::setExportOptions(const std::shared_ptr<ExportOptions>& options)
 void Command::writeObject(std::wostream& out) const
 {
     HRM_TRACE();
-    JsonDocument document;
-    JsonObjectWriter root(document, document.GetAllocator());
-    root.string(L"hermetor_interface", interfaceWord(m_internalInterface)).string(L"command", commandWord(m_type));
+    JsonDocument document(rapidjson::kObjectType);
+    MemberWriter root(document, document.GetAllocator());
+    root.enumeration(L"hermetor_interface", m_internalInterface).enumeration(L"command", m_type);
     const bool legacy = m_internalInterface == EHermetorInterface::Legacy;
     if (m_type == EType::Import) {
         if (legacy)
@@ -116,15 +101,14 @@ void Command::readObject(std::wistream& in)
     HRM_TRACE();
     JsonDocument document;
     readObjectDocument(in, document);
-    JsonObjectReader members(document);
+    MemberReader members(document);
 
-    if (const JsonValue* word = members.find(L"hermetor_interface"); word && word->IsString())
-        m_internalInterface = interfaceFromWord(wideString(*word));
+    members.enumeration(L"hermetor_interface", m_internalInterface);
 
     const JsonValue* command = members.find(L"command");
     if (!command || !command->IsString())
         throw std::invalid_argument("Json document has no command type.");
-    m_type = commandType(wideString(*command));
+    m_type = enumFromJson<EType>(*command);
 
     const bool legacy = m_internalInterface == EHermetorInterface::Legacy;
     if (m_type == EType::Import || m_type == EType::Export) {
@@ -133,13 +117,13 @@ void Command::readObject(std::wistream& in)
             throw std::invalid_argument(m_type == EType::Import ? "Import command should contain options."
                                                                 : "Export command should contain options.");
         if (m_type == EType::Import && legacy)
-            m_legacyImportOptions = readOptions<LegacyImportOptionsImpl>(*options);
+            m_legacyImportOptions = readNew<LegacyImportOptionsImpl>(*options);
         else if (m_type == EType::Import)
-            m_importOptions = readOptions<ImportOptionsImpl>(*options);
+            m_importOptions = readNew<ImportOptionsImpl>(*options);
         else if (legacy)
-            m_legacyExportOptions = readOptions<LegacyExportOptionsImpl>(*options);
+            m_legacyExportOptions = readNew<LegacyExportOptionsImpl>(*options);
         else
-            m_exportOptions = readOptions<ExportOptionsImpl>(*options);
+            m_exportOptions = readNew<ExportOptionsImpl>(*options);
     }
 
     members.boolean(L"mt_mode", m_useMultiThreading);

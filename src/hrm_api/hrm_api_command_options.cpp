@@ -2,30 +2,12 @@
 #include <hrm_api/hrm_api_format_options.h>
 #include <hrm_api/hrm_api_format_options_export.h>
 
-#include "hrm_api/hrm_api_options_keys.h"
+#include "hrm_api/hrm_api_json_members.h"
 
 #include <algorithm>
 
 namespace hrm {
 namespace {
-
-void writeHead(JsonObjectWriter& out, const IFormatOptions& options)
-{
-    out.enumeration(L"operation_type", options.operationType()).enumeration(L"format_type", options.formatType());
-}
-
-// A head that contradicts the object is only reported.
-void checkHead(const JsonObjectReader& in, const IFormatOptions& options)
-{
-    if (const JsonValue* member = in.find(L"operation_type"); member && member->IsString()) {
-        if (enumFromString<EOperationType>(wideString(*member)) != options.operationType())
-            HRM_LOG(ax_herm::Error) << "FormatOptions operation type doesn't match.";
-    }
-    if (const JsonValue* member = in.find(L"format_type"); member && member->IsString()) {
-        if (enumFromString<EFormatType>(wideString(*member)) != options.formatType())
-            HRM_LOG(ax_herm::Error) << "FormatOptions format type doesn't match.";
-    }
-}
 
 std::shared_ptr<IFormatOptions> newCommonOptions(EFormatType format)
 {
@@ -93,8 +75,9 @@ std::shared_ptr<IFormatOptions> newOptions(EOperationType operation, EFormatType
     return nullptr;
 }
 
-// "format_options": one array element per stored object, in ascending format type.
-void writeFormatOptions(JsonObjectWriter& out, const FormatOptionsMap& map)
+// "format_options": one array element per stored object, in ascending format type; only
+// when some are stored.
+void writeFormatOptions(MemberWriter& out, const FormatOptionsMap& map)
 {
     if (map.empty())
         return;
@@ -109,7 +92,7 @@ void writeFormatOptions(JsonObjectWriter& out, const FormatOptionsMap& map)
 
 // Elements that name no options class are dropped; a later element of a format replaces an
 // earlier one.
-void readFormatOptions(const JsonObjectReader& in, FormatOptionsMap& map)
+void readFormatOptions(const MemberReader& in, FormatOptionsMap& map)
 {
     const JsonValue* member = in.find(L"format_options");
     if (!member || !member->IsArray())
@@ -145,39 +128,22 @@ bool sameOptions(const FormatOptionsMap& a, const FormatOptionsMap& b)
 
 IFormatOptions::~IFormatOptions() = default;
 
-void IFormatOptions::readObject(const JsonValue& value)
+// A head that contradicts the object is only reported.
+template <class Members>
+void IFormatOptions::members(Members& m)
 {
-    const JsonObjectReader in(value, "FormatOptions");
-    checkHead(in, *this);
+    m.expect(L"operation_type", operationType(), "FormatOptions operation type doesn't match.")
+        .expect(L"format_type", formatType(), "FormatOptions format type doesn't match.");
 }
-
-void IFormatOptions::writeObject(JsonValue& value, JsonAllocator& allocator) const
-{
-    JsonObjectWriter out(value, allocator);
-    writeHead(out, *this);
-}
-
-void IFormatOptions::readKeys(const JsonValue& value, const OptionsKeyTable& table)
-{
-    JsonObjectReader in(value, table.className());
-    if (!in)
-        return;
-    checkHead(in, *this);
-    table.read(in, *this);
-}
-
-void IFormatOptions::writeKeys(JsonValue& value, JsonAllocator& allocator, const OptionsKeyTable& table) const
-{
-    JsonObjectWriter out(value, allocator);
-    writeHead(out, *this);
-    table.write(out, *this);
-}
+HRM_MEMBER_IO(IFormatOptions, "FormatOptions")
 
 std::shared_ptr<IFormatOptions> IFormatOptions::readOptions(const JsonValue& value)
 {
-    const JsonObjectReader in(value, "FormatOptions");
-    if (!in)
+    if (!value.IsObject()) {
+        HRM_LOG(ax_herm::Error) << "FormatOptions object should have a JSON object type.";
         return nullptr;
+    }
+    const MemberReader in(value);
     const JsonValue* operation = in.find(L"operation_type");
     if (!operation || !operation->IsString()) {
         HRM_LOG(ax_herm::Error) << "FormatOptions object should contain operation type.";
@@ -188,8 +154,7 @@ std::shared_ptr<IFormatOptions> IFormatOptions::readOptions(const JsonValue& val
         HRM_LOG(ax_herm::Error) << "FormatOptions object should contain format type.";
         return nullptr;
     }
-    auto options = newOptions(enumFromString<EOperationType>(wideString(*operation)),
-                              enumFromString<EFormatType>(wideString(*format)));
+    auto options = newOptions(enumFromJson<EOperationType>(*operation), enumFromJson<EFormatType>(*format));
     if (options)
         options->readObject(value);
     return options;
@@ -215,7 +180,8 @@ void ImportOptionsImpl::setFormatOptions(std::shared_ptr<IFormatOptions> options
 void ImportOptionsImpl::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     HRM_TRACE();
-    JsonObjectWriter out(value, allocator);
+    value.SetObject();
+    MemberWriter out(value, allocator);
     out.string(L"file", m_file);
     HRM_LOG(ax_herm::Debug) << "ImportOptions.file = " << toNarrow(m_file);
     out.boolean(L"force_mp_mode", m_forceMPMode)
@@ -228,7 +194,7 @@ void ImportOptionsImpl::writeObject(JsonValue& value, JsonAllocator& allocator) 
 void ImportOptionsImpl::readObject(const JsonValue& value)
 {
     HRM_TRACE();
-    JsonObjectReader in = strictOptionsReader(value);
+    MemberReader in = strictReader(value, "!object.IsObject()");
     m_file = requiredString(in, L"file", "Json document has no valid file path.");
     HRM_LOG(ax_herm::Debug) << "ImportOptions.file = " << toNarrow(m_file);
     in.boolean(L"force_mp_mode", m_forceMPMode)
@@ -259,11 +225,12 @@ void ExportOptionsImpl::setFormatOptions(std::shared_ptr<IFormatOptions> options
 void ExportOptionsImpl::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     HRM_TRACE();
-    JsonObjectWriter out(value, allocator);
-    out.string(L"file", m_file);
-    if (!m_formatVersion.empty())
-        out.string(L"format_version", m_formatVersion);
-    out.int32(L"geometry_flags", m_geometryFlags);
+    value.SetObject();
+    MemberWriter out(value, allocator);
+    out.string(L"file", m_file)
+        .writtenIf(!m_formatVersion.empty())
+        .string(L"format_version", m_formatVersion)
+        .int32(L"geometry_flags", m_geometryFlags);
     logFields();
     writeFormatOptions(out, m_formatOptions);
 }
@@ -271,7 +238,7 @@ void ExportOptionsImpl::writeObject(JsonValue& value, JsonAllocator& allocator) 
 void ExportOptionsImpl::readObject(const JsonValue& value)
 {
     HRM_TRACE();
-    JsonObjectReader in = strictOptionsReader(value);
+    MemberReader in = strictReader(value, "!object.IsObject()");
     m_file = requiredString(in, L"file", "Json document has no valid file path.");
     in.string(L"format_version", m_formatVersion).int32(L"geometry_flags", m_geometryFlags);
     logFields();

@@ -7,7 +7,7 @@ namespace {
 class Utf16Units
 {
 public:
-    explicit Utf16Units(const std::wstring& text) : m_text(text) {}
+    explicit Utf16Units(std::wstring_view text) : m_text(text) {}
 
     bool atEnd() const { return m_index == m_text.size() && m_pendingLow == 0; }
 
@@ -27,14 +27,14 @@ public:
     }
 
 private:
-    const std::wstring& m_text;
+    std::wstring_view m_text;
     size_t m_index = 0;
     uint32_t m_pendingLow = 0;
 };
 
 } // namespace
 
-bool Utf16Less::operator()(const std::wstring& a, const std::wstring& b) const
+bool Utf16Less::operator()(std::wstring_view a, std::wstring_view b) const
 {
     if constexpr (sizeof(wchar_t) == 2) {
         return a < b; // wchar_t is already an unsigned 16-bit code unit

@@ -9,38 +9,49 @@
 namespace hrm {
 
 HRM_ENUM_STRINGS(ELayerNameProcessingModeType,
-    {{ELayerNameProcessingModeType::Unknown, L"unknown"}, {ELayerNameProcessingModeType::AsmRep, L"asm_rep"},
-     {ELayerNameProcessingModeType::SavedVisuRep, L"saved_visu_rep"}})
+    {ELayerNameProcessingModeType::Unknown, L"unknown"},
+    {ELayerNameProcessingModeType::AsmRep, L"asm_rep"},
+    {ELayerNameProcessingModeType::SavedVisuRep, L"saved_visu_rep"})
 
 HRM_ENUM_STRINGS(EDefaultColorMode,
-    {{EDefaultColorMode::Unknown, L"unknown"}, {EDefaultColorMode::False, L"false"},
-     {EDefaultColorMode::CatiaV5, L"catiav5"}})
+    {EDefaultColorMode::Unknown, L"unknown"},
+    {EDefaultColorMode::False, L"false"},
+    {EDefaultColorMode::CatiaV5, L"catiav5"})
 
 HRM_ENUM_STRINGS(EGraphicalPMIContainerMode,
-    {{EGraphicalPMIContainerMode::Unknown, L"unknown"}, {EGraphicalPMIContainerMode::True, L"true"},
-     {EGraphicalPMIContainerMode::False, L"false"}})
+    {EGraphicalPMIContainerMode::Unknown, L"unknown"},
+    {EGraphicalPMIContainerMode::True, L"true"},
+    {EGraphicalPMIContainerMode::False, L"false"})
 
 HRM_ENUM_STRINGS(EEdgeCurveMode,
-    {{EEdgeCurveMode::Unknown, L"unknown"}, {EEdgeCurveMode::Curves2dAnd3d, L"2d+3d"},
-     {EEdgeCurveMode::Curves2d, L"2d"}})
+    {EEdgeCurveMode::Unknown, L"unknown"},
+    {EEdgeCurveMode::Curves2dAnd3d, L"2d+3d"},
+    {EEdgeCurveMode::Curves2d, L"2d"})
 
 HRM_ENUM_STRINGS(EExportCgrCompatibilityMode,
-    {{EExportCgrCompatibilityMode::Unknown, L"unknown"}, {EExportCgrCompatibilityMode::CatiaV5, L"catia_v5"},
-     {EExportCgrCompatibilityMode::Catia3DExperience, L"catia_3dexperience"}})
+    {EExportCgrCompatibilityMode::Unknown, L"unknown"},
+    {EExportCgrCompatibilityMode::CatiaV5, L"catia_v5"},
+    {EExportCgrCompatibilityMode::Catia3DExperience, L"catia_3dexperience"})
 
 HRM_ENUM_STRINGS(EExportSaveMode,
-    {{EExportSaveMode::Unknown, L"unknown"}, {EExportSaveMode::Text, L"text"},
-     {EExportSaveMode::BinaryLE, L"binary_le"}})
+    {EExportSaveMode::Unknown, L"unknown"},
+    {EExportSaveMode::Text, L"text"},
+    {EExportSaveMode::BinaryLE, L"binary_le"})
 
 HRM_ENUM_STRINGS(EExportVersionStep,
-    {{EExportVersionStep::Unknown, L"unknown"}, {EExportVersionStep::AP203, L"AP203"},
-     {EExportVersionStep::AP214, L"AP214"}, {EExportVersionStep::AP242, L"AP242"}})
+    {EExportVersionStep::Unknown, L"unknown"},
+    {EExportVersionStep::AP203, L"AP203"},
+    {EExportVersionStep::AP214, L"AP214"},
+    {EExportVersionStep::AP242, L"AP242"})
 
 HRM_ENUM_STRINGS(EExportVersionCatiaV4,
-    {{EExportVersionCatiaV4::Unknown, L"unknown"}, {EExportVersionCatiaV4::V4_1_9, L"4.1.9"},
-     {EExportVersionCatiaV4::V4_2_0, L"4.2.0"}, {EExportVersionCatiaV4::V4_2_1, L"4.2.1"},
-     {EExportVersionCatiaV4::V4_2_2, L"4.2.2"}, {EExportVersionCatiaV4::V4_2_3, L"4.2.3"},
-     {EExportVersionCatiaV4::V4_2_4, L"4.2.4"}})
+    {EExportVersionCatiaV4::Unknown, L"unknown"},
+    {EExportVersionCatiaV4::V4_1_9, L"4.1.9"},
+    {EExportVersionCatiaV4::V4_2_0, L"4.2.0"},
+    {EExportVersionCatiaV4::V4_2_1, L"4.2.1"},
+    {EExportVersionCatiaV4::V4_2_2, L"4.2.2"},
+    {EExportVersionCatiaV4::V4_2_3, L"4.2.3"},
+    {EExportVersionCatiaV4::V4_2_4, L"4.2.4"})
 
 // The version tables follow a pattern: 0 "unknown", 1 "current", then one word per version
 // from value 2 on, oldest first.
@@ -85,6 +96,7 @@ struct EnumNames<EExportVersionAcis>
             joined(numbered(L"R", 18, 25), numbered(L"", 2016, 2021, L"_1_0")));
         return table;
     }
+    static std::optional<EExportVersionAcis> unknownWord() { return std::nullopt; }
 };
 HRM_ENUM_INSTANTIATE(EExportVersionAcis)
 
@@ -96,6 +108,7 @@ struct EnumNames<EExportVersionParasolid>
         static const auto table = versionPairs<EExportVersionParasolid>(numbered(L"r", 12, 33));
         return table;
     }
+    static std::optional<EExportVersionParasolid> unknownWord() { return std::nullopt; }
 };
 HRM_ENUM_INSTANTIATE(EExportVersionParasolid)
 
@@ -108,6 +121,7 @@ struct EnumNames<EExportVersionCatiaV5>
             joined(numbered(L"V5_R", 16, 21), numbered(L"V5_6_R", 2012, 2021)));
         return table;
     }
+    static std::optional<EExportVersionCatiaV5> unknownWord() { return std::nullopt; }
 };
 HRM_ENUM_INSTANTIATE(EExportVersionCatiaV5)
 
@@ -122,6 +136,7 @@ struct EnumNames<EExportVersionXCGM>
              L"CGM_R2018_1_0", L"CGM_R2018_1_1", L"CGM_R2019_1_0", L"CGM_R2020_1_0", L"CGM_R2021_1_0"});
         return table;
     }
+    static std::optional<EExportVersionXCGM> unknownWord() { return std::nullopt; }
 };
 HRM_ENUM_INSTANTIATE(EExportVersionXCGM)
 

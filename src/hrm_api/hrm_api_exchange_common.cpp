@@ -101,17 +101,12 @@ void ExcMatrix3d::writeObject(JsonValue& value, JsonAllocator& allocator) const
     }
 }
 
-void ExcTransformation::readObject(const JsonValue& value)
+template <class Members>
+void ExcTransformation::members(Members& m)
 {
-    HRM_TRACE();
-    JsonObjectReader(value).object(L"affine", m_affine).object(L"translation", m_translation);
+    m.object(L"affine", m_affine).object(L"translation", m_translation);
 }
-
-void ExcTransformation::writeObject(JsonValue& value, JsonAllocator& allocator) const
-{
-    HRM_TRACE();
-    JsonObjectWriter(value, allocator).object(L"affine", m_affine).object(L"translation", m_translation);
-}
+HRM_MEMBER_IO(ExcTransformation, nullptr)
 
 ExcColor::ExcColor(uint16_t red, uint16_t green, uint16_t blue) : m_hasRGB(true), m_channels{red, green, blue, 255}
 {
@@ -125,13 +120,17 @@ ExcColor::ExcColor(uint16_t red, uint16_t green, uint16_t blue, uint16_t alpha)
 void ExcColor::readObject(const JsonValue& value)
 {
     HRM_TRACE();
-    const JsonObjectReader in(value);
-    const JsonValue* rgb = in.find(L"rgb");
-    m_hasRGB = rgb && rgb->IsArray();
-    if (m_hasRGB)
+    // The flags follow the keys that are present: a value that is no object clears both.
+    m_hasRGB = m_hasAlpha = false;
+    if (!value.IsObject())
+        return;
+    const MemberReader in(value);
+    if (const JsonValue* rgb = in.find(L"rgb"); rgb && rgb->IsArray()) {
+        m_hasRGB = true;
         readLeadingElements(*rgb, m_channels.begin(), m_channels.begin() + 3, readChannel);
-    const JsonValue* alpha = in.find(L"alpha");
-    m_hasAlpha = alpha && readChannel(*alpha, channel(EChannel::Alpha));
+    }
+    if (const JsonValue* alpha = in.find(L"alpha"))
+        m_hasAlpha = readChannel(*alpha, channel(EChannel::Alpha));
 }
 
 void ExcColor::writeObject(JsonValue& value, JsonAllocator& allocator) const
@@ -141,29 +140,36 @@ void ExcColor::writeObject(JsonValue& value, JsonAllocator& allocator) const
         value.SetNull();
         return;
     }
-    JsonObjectWriter out(value, allocator);
+    value.SetObject();
     if (m_hasRGB) {
         JsonValue rgb(rapidjson::kArrayType);
         for (const EChannel c : {EChannel::Red, EChannel::Green, EChannel::Blue})
             rgb.PushBack(static_cast<unsigned>(channel(c)), allocator);
-        out.add(L"rgb", std::move(rgb));
+        value.AddMember(L"rgb", rgb, allocator);
     }
     if (m_hasAlpha)
-        out.uint32(L"alpha", channel(EChannel::Alpha));
+        value.AddMember(L"alpha", static_cast<unsigned>(channel(EChannel::Alpha)), allocator);
+}
+
+template <class E>
+template <class Members>
+void ExcUnitComponent<E>::members(Members& m)
+{
+    m.int32(L"dimension", m_dimension).enumeration(L"units", m_units);
 }
 
 template <class E>
 void ExcUnitComponent<E>::readObject(const JsonValue& value)
 {
     HRM_TRACE();
-    JsonObjectReader(value, "ExcUnitComponent").int32(L"dimension", m_dimension).enumeration(L"units", m_units);
+    readMembers(*this, value, "ExcUnitComponent");
 }
 
 template <class E>
 void ExcUnitComponent<E>::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     HRM_TRACE();
-    JsonObjectWriter(value, allocator).int32(L"dimension", m_dimension).enumeration(L"units", m_units);
+    writeMembers(*this, value, allocator);
 }
 
 template class ExcUnitComponent<ELengthUnitType>;

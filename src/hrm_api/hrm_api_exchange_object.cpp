@@ -6,6 +6,7 @@
 #include <mp/mp_shared_buffer.h>
 
 #include "hrm_api/hrm_api_enum_table.h"
+#include "hrm_api/hrm_api_exchange_types.h"
 #include "hrm_api/hrm_api_json_members.h"
 
 #include <boost/uuid/random_generator.hpp>
@@ -55,7 +56,10 @@ class ExchangeObjectRegistry::Prototypes : public std::map<std::wstring, IExchan
 {
 };
 
-ExchangeObjectRegistry::ExchangeObjectRegistry() : m_prototypes(std::make_unique<Prototypes>()) {}
+ExchangeObjectRegistry::ExchangeObjectRegistry() : m_prototypes(std::make_unique<Prototypes>())
+{
+    addLibraryTypes(*this);
+}
 
 ExchangeObjectRegistry::~ExchangeObjectRegistry() = default;
 
@@ -81,6 +85,15 @@ std::shared_ptr<IExchangeObject> ExchangeObjectRegistry::get(const std::wstring&
 {
     const auto it = m_prototypes->find(name);
     return it != m_prototypes->end() ? it->second->clone() : nullptr;
+}
+
+std::vector<std::wstring> ExchangeObjectRegistry::names() const
+{
+    std::vector<std::wstring> names;
+    names.reserve(m_prototypes->size());
+    for (const auto& entry : *m_prototypes)
+        names.push_back(entry.first);
+    return names;
 }
 
 // ---- ExchangeObjectWrapper ----------------------------------------------------------------
@@ -113,8 +126,8 @@ void ExchangeObjectWrapper::writeObject(std::wostream& out) const
     if (!m_pObject)
         throw std::invalid_argument("ExchangeObjectWrapper::writeObject > m_pObject == nullptr");
 
-    JsonDocument envelope;
-    JsonObjectWriter members(envelope, envelope.GetAllocator());
+    JsonDocument envelope(rapidjson::kObjectType);
+    MemberWriter members(envelope, envelope.GetAllocator());
     members.string(L"exchange_object_name", m_pObject->objectName());
     if (m_pObject->binary())
         members.boolean(L"binary", true)
@@ -130,7 +143,7 @@ void ExchangeObjectWrapper::readObject(std::wistream& in)
     JsonDocument envelope;
     readObjectDocument(in, envelope);
 
-    const JsonObjectReader members(envelope);
+    const MemberReader members(envelope);
     const JsonValue* name = members.find(L"exchange_object_name");
     m_pObject = name && name->IsString() ? ExchangeObjectRegistry::instance().get(wideString(*name)) : nullptr;
     if (!m_pObject)
@@ -173,47 +186,33 @@ void ExchangeObjectWrapper::loadObject()
 
 // ---- Status objects -----------------------------------------------------------------------
 
-void ExcMessageBase::readObject(const JsonValue& value)
+template <class Members>
+void ExcMessageBase::members(Members& m)
 {
-    JsonObjectReader(value).string(L"message", m_message);
+    m.string(L"message", m_message);
 }
-
-void ExcMessageBase::writeObject(JsonValue& value, JsonAllocator& allocator) const
-{
-    JsonObjectWriter(value, allocator).string(L"message", m_message);
-}
+HRM_MEMBER_IO(ExcMessageBase, nullptr)
 
 bool ExcProgress::operator==(const ExcProgress& other) const
 {
     return m_progress == other.m_progress && m_progressMax == other.m_progressMax && m_stage == other.m_stage;
 }
 
-void ExcProgress::readObject(const JsonValue& value)
+template <class Members>
+void ExcProgress::members(Members& m)
 {
-    JsonObjectReader(value)
-        .int32(L"progress", m_progress)
-        .int32(L"progress_max", m_progressMax)
-        .boolean(L"pulse", m_pulse)
-        .string(L"stage", m_stage);
+    m.int32(L"progress", m_progress).int32(L"progress_max", m_progressMax).boolean(L"pulse", m_pulse).string(L"stage", m_stage);
 }
-
-void ExcProgress::writeObject(JsonValue& value, JsonAllocator& allocator) const
-{
-    JsonObjectWriter(value, allocator)
-        .int32(L"progress", m_progress)
-        .int32(L"progress_max", m_progressMax)
-        .boolean(L"pulse", m_pulse)
-        .string(L"stage", m_stage);
-}
+HRM_MEMBER_IO(ExcProgress, nullptr)
 
 HRM_ENUM_STRINGS(ExcStageFinished::EStage,
-    {{ExcStageFinished::EStage::Unknown, L"unknown"},
-     {ExcStageFinished::EStage::ProductStructure, L"product_structure"},
-     {ExcStageFinished::EStage::RootVisualization, L"root_visualization"},
-     {ExcStageFinished::EStage::Visualization, L"visualization"},
-     {ExcStageFinished::EStage::RootMechanical, L"root_mechanical"},
-     {ExcStageFinished::EStage::Mechanical, L"mechanical"},
-     {ExcStageFinished::EStage::VisuAndMech, L"visu_and_mech"}})
+    {ExcStageFinished::EStage::Unknown, L"unknown"},
+    {ExcStageFinished::EStage::ProductStructure, L"product_structure"},
+    {ExcStageFinished::EStage::RootVisualization, L"root_visualization"},
+    {ExcStageFinished::EStage::Visualization, L"visualization"},
+    {ExcStageFinished::EStage::RootMechanical, L"root_mechanical"},
+    {ExcStageFinished::EStage::Mechanical, L"mechanical"},
+    {ExcStageFinished::EStage::VisuAndMech, L"visu_and_mech"})
 
 void ExcStageFinished::readObject(const JsonValue& value)
 {
@@ -228,44 +227,23 @@ void ExcStageFinished::writeObject(JsonValue& value, JsonAllocator& allocator) c
     value = jsonString(enumToString(m_stage), allocator);
 }
 
-// The words of Result::ECode. Reading does not follow the enumeration rule for unknown words:
-// every word outside the table is Unknown.
-template <>
-struct EnumNames<Result::ECode>
-{
-    static const auto& pairs()
-    {
-        static const std::pair<Result::ECode, const wchar_t*> table[] = {
-            {Result::ECode::Unknown, L"unknown"}, {Result::ECode::Ok, L"ok"}, {Result::ECode::Warning, L"warning"},
-            {Result::ECode::Error, L"error"}, {Result::ECode::Interrupted, L"interrupted"}};
-        return table;
-    }
-};
-
-namespace {
-
-using ResultCodes = EnumTable<Result::ECode>;
-
-Result::ECode resultCode(const JsonValue& value)
-{
-    if (!value.IsString())
-        return Result::ECode::Unknown;
-    const std::wstring word = wideString(value);
-    const Result::ECode code = ResultCodes::fromString(word);
-    return ResultCodes::toString(code) == word ? code : Result::ECode::Unknown;
-}
-
-} // namespace
+// Reading does not follow the usual rule for unknown words: every word outside the table is Unknown.
+HRM_ENUM_STRINGS_UNKNOWN_AS(Result::ECode, Result::ECode::Unknown,
+    {Result::ECode::Unknown, L"unknown"},
+    {Result::ECode::Ok, L"ok"},
+    {Result::ECode::Warning, L"warning"},
+    {Result::ECode::Error, L"error"},
+    {Result::ECode::Interrupted, L"interrupted"})
 
 void Result::writeObject(std::wostream& out) const
 {
     HRM_TRACE();
-    JsonDocument document;
-    JsonObjectWriter members(document, document.GetAllocator());
-    members.string(L"code", ResultCodes::toString(m_code));
-    if (!m_message.empty())
-        members.string(L"message", m_message);
-    members.boolean(L"is_finished", m_finished);
+    JsonDocument document(rapidjson::kObjectType);
+    MemberWriter(document, document.GetAllocator())
+        .enumeration(L"code", m_code)
+        .writtenIf(!m_message.empty())
+        .string(L"message", m_message)
+        .boolean(L"is_finished", m_finished);
     JsonTextIO::write(out, document, true);
 }
 
@@ -274,13 +252,14 @@ void Result::readObject(std::wistream& in)
     HRM_TRACE();
     JsonDocument document;
     readObjectDocument(in, document);
-    JsonObjectReader members(document);
+    MemberReader members(document);
     const JsonValue* code = members.find(L"code");
     if (!code)
         throw std::invalid_argument("Json document has no result code.");
 
-    m_code = resultCode(*code);
+    m_code = code->IsString() ? enumFromJson<ECode>(*code) : ECode::Unknown;
     members.string(L"message", m_message);
+    // Any value but the literal true, once present, means not finished.
     if (const JsonValue* finished = members.find(L"is_finished"))
         m_finished = finished->IsTrue();
 }
@@ -303,7 +282,9 @@ void LegacyComponentInstanceNames::readObject(const JsonValue& value)
     if (!value.IsArray())
         throw std::invalid_argument("LegacyComponentInstanceNames::readObject(): Input json object is not an array");
     for (const JsonValue& element : value.GetArray()) {
-        const JsonObjectReader entry(element);
+        if (!element.IsObject())
+            continue;
+        const MemberReader entry(element);
         const JsonValue* handle = entry.find(L"component_handle");
         const JsonValue* name = entry.find(L"component_name");
         if (handle && handle->IsUint64() && name && name->IsString())
@@ -315,8 +296,8 @@ void LegacyComponentInstanceNames::writeObject(JsonValue& value, JsonAllocator& 
 {
     value.SetArray();
     for (const auto& [handle, name] : m_map) {
-        JsonValue entry;
-        JsonObjectWriter(entry, allocator).uint64(L"component_handle", handle).string(L"component_name", name);
+        JsonValue entry(rapidjson::kObjectType);
+        MemberWriter(entry, allocator).uint64(L"component_handle", handle).string(L"component_name", name);
         value.PushBack(entry, allocator);
     }
 }
@@ -338,23 +319,32 @@ void LegacyMaterialMap::merge(const LegacyMaterialMap& other)
     m_map.insert(other.m_map.begin(), other.m_map.end());
 }
 
+// The material's members, one list for both directions.
+template <class Members, class Material>
+void materialMembers(Members& m, Material& material)
+{
+    m.boolean(L"has_material", material.hasMaterial)
+        .string(L"name", material.name)
+        .storedDouble(L"density", material.density)
+        .storedDouble(L"thermal_conductivity", material.thermalConductivity)
+        .storedDouble(L"specific_heat", material.specificHeat);
+}
+
 void LegacyMaterialMap::readObject(const JsonValue& value)
 {
     if (!value.IsArray())
         throw std::invalid_argument("LegacyMaterialMap::readObject(): Input json object is not an array");
     for (const JsonValue& element : value.GetArray()) {
-        const JsonObjectReader entry(element);
+        if (!element.IsObject())
+            continue;
+        const MemberReader entry(element);
         const JsonValue* handle = entry.find(L"component_handle");
         const JsonValue* fields = entry.find(L"component_material");
         if (!handle || !handle->IsUint64() || !fields || !fields->IsObject())
             continue;
         Material material;
-        JsonObjectReader(*fields)
-            .boolean(L"has_material", material.hasMaterial)
-            .string(L"name", material.name)
-            .real(L"density", material.density)
-            .real(L"thermal_conductivity", material.thermalConductivity)
-            .real(L"specific_heat", material.specificHeat);
+        MemberReader in(*fields);
+        materialMembers(in, material);
         addMaterial(handle->GetUint64(), material);
     }
 }
@@ -363,28 +353,13 @@ void LegacyMaterialMap::writeObject(JsonValue& value, JsonAllocator& allocator) 
 {
     value.SetArray();
     for (const auto& [handle, material] : m_map) {
-        JsonValue fields;
-        JsonObjectWriter(fields, allocator)
-            .boolean(L"has_material", material.hasMaterial)
-            .string(L"name", material.name)
-            .real(L"density", material.density)
-            .real(L"thermal_conductivity", material.thermalConductivity)
-            .real(L"specific_heat", material.specificHeat);
-        JsonValue entry;
-        JsonObjectWriter(entry, allocator)
-            .uint64(L"component_handle", handle)
-            .add(L"component_material", std::move(fields));
+        JsonValue fields(rapidjson::kObjectType);
+        MemberWriter out(fields, allocator);
+        materialMembers(out, material);
+        JsonValue entry(rapidjson::kObjectType);
+        MemberWriter(entry, allocator).uint64(L"component_handle", handle).add(L"component_material", std::move(fields));
         value.PushBack(entry, allocator);
     }
 }
-
-// ---- Registered types ---------------------------------------------------------------------
-
-HRM_REGISTER_EXCHANGE_OBJECT(ExcMessage);
-HRM_REGISTER_EXCHANGE_OBJECT(ExcLog);
-HRM_REGISTER_EXCHANGE_OBJECT(ExcProgress);
-HRM_REGISTER_EXCHANGE_OBJECT(ExcStageFinished);
-HRM_REGISTER_EXCHANGE_OBJECT(LegacyComponentInstanceNames);
-HRM_REGISTER_EXCHANGE_OBJECT(LegacyMaterialMap);
 
 } // namespace hrm

@@ -1,260 +1,263 @@
 #include <hrm_api/hrm_api_format_options.h>
 
 #include "hrm_api/hrm_api_enum_table.h"
-#include "hrm_api/hrm_api_options_keys.h"
+#include "hrm_api/hrm_api_json_members.h"
 
 namespace hrm {
 
 HRM_ENUM_STRINGS(EPersistentNameProcessingModeType,
-    {{EPersistentNameProcessingModeType::Unknown, L"unknown"}, {EPersistentNameProcessingModeType::Bodies, L"bodies"},
-     {EPersistentNameProcessingModeType::Faces, L"faces"}, {EPersistentNameProcessingModeType::Edges, L"edges"},
-     {EPersistentNameProcessingModeType::Vertices, L"vertices"}})
+    {EPersistentNameProcessingModeType::Unknown, L"unknown"},
+    {EPersistentNameProcessingModeType::Bodies, L"bodies"},
+    {EPersistentNameProcessingModeType::Faces, L"faces"},
+    {EPersistentNameProcessingModeType::Edges, L"edges"},
+    {EPersistentNameProcessingModeType::Vertices, L"vertices"})
 
-const OptionsKeyTable& OptionsGeneral::keyTable()
+template <class Members>
+void OptionsGeneral::members(Members& m)
 {
-    using O = OptionsGeneral;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsGeneral")
-        .key(L"log_event_level_type", &O::m_logEventLevel)
-        .key(L"log_file_encoding_type", &O::m_logFileEncoding)
-        .key(L"log_file_name", &O::m_logFileName)
-        .key(L"logging_mode_type", &O::m_loggingMode)
-        .key(L"logging_output_directory", &O::m_loggingOutputDirectory)
-        .key(L"memory_management_mode", &O::m_memoryManagementMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"log_event_level_type", m_logEventLevel)
+        .enumeration(L"log_file_encoding_type", m_logFileEncoding)
+        .string(L"log_file_name", m_logFileName)
+        .enumeration(L"logging_mode_type", m_loggingMode)
+        .string(L"logging_output_directory", m_loggingOutputDirectory)
+        .enumeration(L"memory_management_mode", m_memoryManagementMode);
 }
+HRM_MEMBER_IO(OptionsGeneral, "OptionsGeneral")
 
-const OptionsKeyTable& OptionsGraphical::keyTable()
+template <class Members>
+void OptionsGraphical::members(Members& m)
 {
-    using O = OptionsGraphical;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsGraphical")
-        .key(L"tesselation_2d_sag_value", &O::m_tessellation2dSagValue)
-        .key(L"tesselation_3d_sag_value", &O::m_tessellation3dSagValue)
-        .key(L"translate_reference_geometry_mode", &O::m_translateReferenceGeometryMode)
-        .key(L"visu_brep_tesselation_mode", &O::m_visuBRepTessellationMode)
-        .key(L"visu_text_data_mode", &O::m_visuTextDataMode)
-        .key(L"visu_text_stroking_mode", &O::m_visuTextStrokingMode);
-    return table;
+    IFormatOptions::members(m);
+    m.storedDouble(L"tesselation_2d_sag_value", m_tessellation2dSagValue)
+        .storedDouble(L"tesselation_3d_sag_value", m_tessellation3dSagValue)
+        .enumeration(L"translate_reference_geometry_mode", m_translateReferenceGeometryMode)
+        .enumeration(L"visu_brep_tesselation_mode", m_visuBRepTessellationMode)
+        .enumeration(L"visu_text_data_mode", m_visuTextDataMode)
+        .enumeration(L"visu_text_stroking_mode", m_visuTextStrokingMode);
 }
+HRM_MEMBER_IO(OptionsGraphical, "OptionsGraphical")
 
-const OptionsKeyTable& OptionsMechanical::keyTable()
+template <class Members>
+void OptionsMechanical::members(Members& m)
 {
-    using O = OptionsMechanical;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsMechanical")
-        .key(L"feature_tolerance_processing_mode", &O::m_featureToleranceProcessingMode)
-        .key(L"misc_data_processing_mode", &O::m_miscDataProcessingMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"feature_tolerance_processing_mode", m_featureToleranceProcessingMode)
+        .enumeration(L"misc_data_processing_mode", m_miscDataProcessingMode);
 }
+HRM_MEMBER_IO(OptionsMechanical, "OptionsMechanical")
 
-const OptionsKeyTable& OptionsModeler::keyTable()
+template <class Members>
+void OptionsModeler::members(Members& m)
 {
-    using O = OptionsModeler;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsModeler")
-        .key(L"acis_spline_resurfacing_mode", &O::m_splineResurfacingMode)
-        .key(L"acis_spline_resurfacing_tolerance", &O::m_splineResurfacingTolerance)
-        .key(L"attribute_processing_mode", &O::m_attributeProcessingMode)
-        .key(L"acis_heal_type", &O::m_healType)
-        .key(L"length_unit_type", &O::m_lengthUnit)
-        .key(L"preserve_mfg_mode", &O::m_preserveMfgMode)
-        .key(L"preserve_model_associativity_mode", &O::m_preserveModelAssociativityMode)
-        .key(L"preserve_pmi_mode", &O::m_preservePMIMode)
-        .key(L"topological_entity_inspector_mode", &O::m_topologicalEntityInspectorMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"acis_spline_resurfacing_mode", m_splineResurfacingMode)
+        .storedDouble(L"acis_spline_resurfacing_tolerance", m_splineResurfacingTolerance)
+        .enumeration(L"attribute_processing_mode", m_attributeProcessingMode)
+        .enumeration(L"acis_heal_type", m_healType)
+        .enumeration(L"length_unit_type", m_lengthUnit)
+        .enumeration(L"preserve_mfg_mode", m_preserveMfgMode)
+        .enumeration(L"preserve_model_associativity_mode", m_preserveModelAssociativityMode)
+        .enumeration(L"preserve_pmi_mode", m_preservePMIMode)
+        .enumeration(L"topological_entity_inspector_mode", m_topologicalEntityInspectorMode);
 }
+HRM_MEMBER_IO(OptionsModeler, "OptionsModeler")
 
 namespace imp {
 
-const OptionsKeyTable& Options3DXML::keyTable()
+template <class Members>
+void Options3DXML::members(Members& m)
 {
-    using O = Options3DXML;
-    static const OptionsKeyTable table = OptionsKeys<O>("Options3DXML")
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"visu_pmi_mode", m_visuPMIMode);
 }
+HRM_MEMBER_IO(Options3DXML, "Options3DXML")
 
-const OptionsKeyTable& OptionsCatiaV4::keyTable()
+template <class Members>
+void OptionsCatiaV4::members(Members& m)
 {
-    using O = OptionsCatiaV4;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsCatiaV4")
-        .key(L"import_entities", &O::m_importEntities)
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"layer_filter", &O::m_layerFilter);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"import_entities", m_importEntities)
+        .enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .string(L"layer_filter", m_layerFilter);
 }
+HRM_MEMBER_IO(OptionsCatiaV4, "OptionsCatiaV4")
 
-const OptionsKeyTable& OptionsCatiaV5::keyTable()
+template <class Members>
+void OptionsCatiaV5::members(Members& m)
 {
-    using O = OptionsCatiaV5;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsCatiaV5")
-        .key(L"assembly_path_pref", &O::m_assemblyPathPref)
-        .key(L"in_work_object_mode", &O::m_inWorkObjectMode)
-        .key(L"name_processing_mode", &O::m_nameProcessingMode)
-        .key(L"assembly_unfolded_view_mode", &O::m_assemblyUnfoldedViewMode)
-        .key(L"mfg_processing_mode", &O::m_mfgProcessingMode)
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"suppressed_entities_mode", &O::m_suppressedEntitiesMode)
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode)
-        .key(L"mfg_data_mode", &O::m_mfgDataMode)
-        .key(L"doc_delay_loading_mode", &O::m_docDelayLoadingMode)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization)
-        .key(L"import_preview_graphics", &O::m_importPreviewGraphics)
-        .key(L"pname_modes", &O::m_persistentNameModes);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"assembly_path_pref", m_assemblyPathPref)
+        .enumeration(L"in_work_object_mode", m_inWorkObjectMode)
+        .enumeration(L"name_processing_mode", m_nameProcessingMode)
+        .enumeration(L"assembly_unfolded_view_mode", m_assemblyUnfoldedViewMode)
+        .enumeration(L"mfg_processing_mode", m_mfgProcessingMode)
+        .enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .enumeration(L"suppressed_entities_mode", m_suppressedEntitiesMode)
+        .enumeration(L"visu_pmi_mode", m_visuPMIMode)
+        .enumeration(L"mfg_data_mode", m_mfgDataMode)
+        .enumeration(L"doc_delay_loading_mode", m_docDelayLoadingMode)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization)
+        .boolean(L"import_preview_graphics", m_importPreviewGraphics)
+        .enumerations(L"pname_modes", m_persistentNameModes);
 }
+HRM_MEMBER_IO(OptionsCatiaV5, "OptionsCatiaV5")
 
-const OptionsKeyTable& OptionsCatiaV5Drawing::keyTable()
+template <class Members>
+void OptionsCatiaV5Drawing::members(Members& m)
 {
-    using O = OptionsCatiaV5Drawing;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsCatiaV5Drawing")
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .enumeration(L"visu_pmi_mode", m_visuPMIMode);
 }
+HRM_MEMBER_IO(OptionsCatiaV5Drawing, "OptionsCatiaV5Drawing")
 
-const OptionsKeyTable& OptionsCreo::keyTable()
+template <class Members>
+void OptionsCreo::members(Members& m)
 {
-    using O = OptionsCreo;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsCreo")
-        .key(L"search_paths", &O::m_alternateSearchPaths)
-        .key(L"configuration_name", &O::m_configurationName)
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"suppressed_entities_mode", &O::m_suppressedEntitiesMode)
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode)
-        .key(L"driving_dimensions_type", &O::m_drivingDimensionsMode)
-        .key(L"construction_geom_mode", &O::m_constructionGeometryMode)
-        .key(L"reference_geom_mode", &O::m_referenceGeometryMode)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization)
-        .key(L"import_preview_graphics", &O::m_importPreviewGraphics)
-        .key(L"pname_modes", &O::m_persistentNameModes);
-    return table;
+    IFormatOptions::members(m);
+    m.string(L"search_paths", m_alternateSearchPaths)
+        .string(L"configuration_name", m_configurationName)
+        .enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .enumeration(L"suppressed_entities_mode", m_suppressedEntitiesMode)
+        .enumeration(L"visu_pmi_mode", m_visuPMIMode)
+        .enumeration(L"driving_dimensions_type", m_drivingDimensionsMode)
+        .enumeration(L"construction_geom_mode", m_constructionGeometryMode)
+        .enumeration(L"reference_geom_mode", m_referenceGeometryMode)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization)
+        .boolean(L"import_preview_graphics", m_importPreviewGraphics)
+        .enumerations(L"pname_modes", m_persistentNameModes);
 }
+HRM_MEMBER_IO(OptionsCreo, "OptionsCreo")
 
-const OptionsKeyTable& OptionsIGES::keyTable()
+template <class Members>
+void OptionsIGES::members(Members& m)
 {
-    using O = OptionsIGES;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsIGES")
-        .key(L"import_entities", &O::m_importEntities)
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"copious_data_mode", &O::m_copiousDataMode)
-        .key(L"trim_curve_import_pref_mode", &O::m_trimCurveImportPreference);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"import_entities", m_importEntities)
+        .enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .enumeration(L"copious_data_mode", m_copiousDataMode)
+        .enumeration(L"trim_curve_import_pref_mode", m_trimCurveImportPreference);
 }
+HRM_MEMBER_IO(OptionsIGES, "OptionsIGES")
 
-const OptionsKeyTable& OptionsInventor::keyTable()
+template <class Members>
+void OptionsInventor::members(Members& m)
 {
-    using O = OptionsInventor;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsInventor")
-        .key(L"search_paths", &O::m_searchPaths)
-        .key(L"assembly_path_pref", &O::m_assemblyPathPref)
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"suppressed_entities_mode", &O::m_suppressedEntitiesMode)
-        .key(L"active_state_mode", &O::m_activeStateMode)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization)
-        .key(L"import_preview_graphics", &O::m_importPreviewGraphics)
-        .key(L"pname_modes", &O::m_persistentNameModes);
-    return table;
+    IFormatOptions::members(m);
+    m.string(L"search_paths", m_searchPaths)
+        .enumeration(L"assembly_path_pref", m_assemblyPathPref)
+        .enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .enumeration(L"suppressed_entities_mode", m_suppressedEntitiesMode)
+        .enumeration(L"active_state_mode", m_activeStateMode)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization)
+        .boolean(L"import_preview_graphics", m_importPreviewGraphics)
+        .enumerations(L"pname_modes", m_persistentNameModes);
 }
+HRM_MEMBER_IO(OptionsInventor, "OptionsInventor")
 
-const OptionsKeyTable& OptionsJT::keyTable()
+template <class Members>
+void OptionsJT::members(Members& m)
 {
-    using O = OptionsJT;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsJT")
-        .key(L"user_prop_mode", &O::m_userPropertiesMode)
-        .key(L"import_visu_lod", &O::m_importVisuLOD)
-        .key(L"import_geometry", &O::m_importGeometry)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"user_prop_mode", m_userPropertiesMode)
+        .string(L"import_visu_lod", m_importVisuLOD)
+        .boolean(L"import_geometry", m_importGeometry)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization);
 }
+HRM_MEMBER_IO(OptionsJT, "OptionsJT")
 
 // Both free-curves and free-points keys are bound to the free-curves field.
-const OptionsKeyTable& OptionsNX::keyTable()
+template <class Members>
+void OptionsNX::members(Members& m)
 {
-    using O = OptionsNX;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsNX")
-        .key(L"search_paths", &O::m_searchPaths)
-        .key(L"assembly_path_pref", &O::m_assemblyPathPref)
-        .key(L"configuration_name", &O::m_configurationName)
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"suppressed_entities_mode", &O::m_suppressedEntitiesMode)
-        .key(L"translate_free_curves_mode", &O::m_freeCurvesMode)
-        .key(L"translate_free_points_mode", &O::m_freeCurvesMode)
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode)
-        .key(L"import_geometry", &O::m_importGeometry)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization)
-        .key(L"pname_modes", &O::m_persistentNameModes);
-    return table;
+    IFormatOptions::members(m);
+    m.string(L"search_paths", m_searchPaths)
+        .enumeration(L"assembly_path_pref", m_assemblyPathPref)
+        .string(L"configuration_name", m_configurationName)
+        .enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .enumeration(L"suppressed_entities_mode", m_suppressedEntitiesMode)
+        .enumeration(L"translate_free_curves_mode", m_freeCurvesMode)
+        .enumeration(L"translate_free_points_mode", m_freeCurvesMode)
+        .enumeration(L"visu_pmi_mode", m_visuPMIMode)
+        .boolean(L"import_geometry", m_importGeometry)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization)
+        .enumerations(L"pname_modes", m_persistentNameModes);
 }
+HRM_MEMBER_IO(OptionsNX, "OptionsNX")
 
-const OptionsKeyTable& OptionsParasolid::keyTable()
+template <class Members>
+void OptionsParasolid::members(Members& m)
 {
-    using O = OptionsParasolid;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsParasolid")
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode);
 }
+HRM_MEMBER_IO(OptionsParasolid, "OptionsParasolid")
 
-const OptionsKeyTable& OptionsSolidEdge::keyTable()
+template <class Members>
+void OptionsSolidEdge::members(Members& m)
 {
-    using O = OptionsSolidEdge;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsSolidEdge")
-        .key(L"search_paths", &O::m_assemblySearchPaths)
-        .key(L"assembly_path_pref", &O::m_assemblyPathPref)
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization)
-        .key(L"import_preview_graphics", &O::m_importPreviewGraphics)
-        .key(L"pname_modes", &O::m_persistentNameModes);
-    return table;
+    IFormatOptions::members(m);
+    m.string(L"search_paths", m_assemblySearchPaths)
+        .enumeration(L"assembly_path_pref", m_assemblyPathPref)
+        .enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization)
+        .boolean(L"import_preview_graphics", m_importPreviewGraphics)
+        .enumerations(L"pname_modes", m_persistentNameModes);
 }
+HRM_MEMBER_IO(OptionsSolidEdge, "OptionsSolidEdge")
 
-const OptionsKeyTable& OptionsSolidWorks::keyTable()
+template <class Members>
+void OptionsSolidWorks::members(Members& m)
 {
-    using O = OptionsSolidWorks;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsSolidWorks")
-        .key(L"search_paths", &O::m_searchPaths)
-        .key(L"assembly_path_pref", &O::m_assemblyPathPref)
-        .key(L"configuration_name", &O::m_configurationName)
-        .key(L"hidden_entities_mode", &O::m_hiddenEntitiesMode)
-        .key(L"suppressed_entities_mode", &O::m_suppressedEntitiesMode)
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization)
-        .key(L"import_preview_graphics", &O::m_importPreviewGraphics)
-        .key(L"pname_modes", &O::m_persistentNameModes);
-    return table;
+    IFormatOptions::members(m);
+    m.string(L"search_paths", m_searchPaths)
+        .enumeration(L"assembly_path_pref", m_assemblyPathPref)
+        .string(L"configuration_name", m_configurationName)
+        .enumeration(L"hidden_entities_mode", m_hiddenEntitiesMode)
+        .enumeration(L"suppressed_entities_mode", m_suppressedEntitiesMode)
+        .enumeration(L"visu_pmi_mode", m_visuPMIMode)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization)
+        .boolean(L"import_preview_graphics", m_importPreviewGraphics)
+        .enumerations(L"pname_modes", m_persistentNameModes);
 }
+HRM_MEMBER_IO(OptionsSolidWorks, "OptionsSolidWorks")
 
-const OptionsKeyTable& OptionsSolidWorksDrawing::keyTable()
+template <class Members>
+void OptionsSolidWorksDrawing::members(Members& m)
 {
-    static const OptionsKeyTable table = OptionsKeys<OptionsSolidWorksDrawing>("OptionsSolidWorksDrawing");
-    return table;
+    IFormatOptions::members(m);
 }
+HRM_MEMBER_IO(OptionsSolidWorksDrawing, "OptionsSolidWorksDrawing")
 
-const OptionsKeyTable& OptionsSTEP::keyTable()
+template <class Members>
+void OptionsSTEP::members(Members& m)
 {
-    using O = OptionsSTEP;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsSTEP")
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode)
-        .key(L"import_geometry", &O::m_importGeometry)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"visu_pmi_mode", m_visuPMIMode)
+        .boolean(L"import_geometry", m_importGeometry)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization);
 }
+HRM_MEMBER_IO(OptionsSTEP, "OptionsSTEP")
 
-const OptionsKeyTable& OptionsXCGM::keyTable()
+template <class Members>
+void OptionsXCGM::members(Members& m)
 {
-    using O = OptionsXCGM;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsXCGM")
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode)
-        .key(L"import_geometry", &O::m_importGeometry)
-        .key(L"import_visualization", &O::m_importVisualization)
-        .key(L"import_root_visualization", &O::m_importRootVisualization);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"visu_pmi_mode", m_visuPMIMode)
+        .boolean(L"import_geometry", m_importGeometry)
+        .boolean(L"import_visualization", m_importVisualization)
+        .boolean(L"import_root_visualization", m_importRootVisualization);
 }
+HRM_MEMBER_IO(OptionsXCGM, "OptionsXCGM")
 
 } // namespace imp
 } // namespace hrm

@@ -1,98 +1,99 @@
 #include <hrm_api/hrm_api_format_options_export.h>
 
-#include "hrm_api/hrm_api_options_keys.h"
+#include "hrm_api/hrm_api_json_members.h"
 
 namespace hrm::exp {
 
-const OptionsKeyTable& Options3DXML::keyTable()
+template <class Members>
+void Options3DXML::members(Members& m)
 {
-    using O = Options3DXML;
-    static const OptionsKeyTable table = OptionsKeys<O>("Options3DXML")
-        .key(L"default_color_mode", &O::m_defaultColorMode)
-        .key(L"graphical_pmi_container_mode", &O::m_graphicalPMIContainerMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"default_color_mode", m_defaultColorMode)
+        .enumeration(L"graphical_pmi_container_mode", m_graphicalPMIContainerMode);
 }
+HRM_MEMBER_IO(Options3DXML, "Options3DXML")
 
-const OptionsKeyTable& OptionsAcis::keyTable()
+template <class Members>
+void OptionsAcis::members(Members& m)
 {
-    using O = OptionsAcis;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsAcis")
-        .key(L"units", &O::m_units);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"units", m_units);
 }
+HRM_MEMBER_IO(OptionsAcis, "OptionsAcis")
 
-const OptionsKeyTable& OptionsCatiaV4::keyTable()
+template <class Members>
+void OptionsCatiaV4::members(Members& m)
 {
-    using O = OptionsCatiaV4;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsCatiaV4")
-        .key(L"author_name", &O::m_authorName)
-        .key(L"model_name", &O::m_modelName)
-        .key(L"version", &O::m_version)
-        .key(L"edge_curve_mode", &O::m_edgeCurveMode);
-    return table;
+    IFormatOptions::members(m);
+    m.string(L"author_name", m_authorName)
+        .string(L"model_name", m_modelName)
+        .enumeration(L"version", m_version)
+        .enumeration(L"edge_curve_mode", m_edgeCurveMode);
 }
+HRM_MEMBER_IO(OptionsCatiaV4, "OptionsCatiaV4")
 
-const OptionsKeyTable& OptionsCatiaV5::keyTable()
+template <class Members>
+void OptionsCatiaV5::members(Members& m)
 {
-    using O = OptionsCatiaV5;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsCatiaV5")
-        .key(L"default_color_mode", &O::m_defaultColorMode)
-        .key(L"cgr_compatibility_mode", &O::m_cgrCompatibilityMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"default_color_mode", m_defaultColorMode)
+        .enumeration(L"cgr_compatibility_mode", m_cgrCompatibilityMode);
 }
+HRM_MEMBER_IO(OptionsCatiaV5, "OptionsCatiaV5")
 
-const OptionsKeyTable& OptionsIGES::keyTable()
+template <class Members>
+void OptionsIGES::members(Members& m)
 {
-    using O = OptionsIGES;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsIGES")
-        .key(L"units", &O::m_units);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"units", m_units);
 }
+HRM_MEMBER_IO(OptionsIGES, "OptionsIGES")
 
-const OptionsKeyTable& OptionsParasolid::keyTable()
+template <class Members>
+void OptionsParasolid::members(Members& m)
 {
-    static const OptionsKeyTable table = OptionsKeys<OptionsParasolid>("OptionsParasolid");
-    return table;
+    IFormatOptions::members(m);
 }
+HRM_MEMBER_IO(OptionsParasolid, "OptionsParasolid")
 
-const OptionsKeyTable& OptionsSTEP::keyTable()
+template <class Members>
+void OptionsSTEP::members(Members& m)
 {
-    using O = OptionsSTEP;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsSTEP")
-        .key(L"units", &O::m_units)
-        .key(L"version", &O::m_version)
-        .key(L"tolerance", &O::m_fileTolerance)
-        .key(L"layer_name_mode", &O::m_layerNameMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"units", m_units)
+        .enumeration(L"version", m_version)
+        .storedDouble(L"tolerance", m_fileTolerance)
+        .enumeration(L"layer_name_mode", m_layerNameMode);
 }
+HRM_MEMBER_IO(OptionsSTEP, "OptionsSTEP")
 
-const OptionsKeyTable& OptionsXCGM::keyTable()
+template <class Members>
+void OptionsXCGM::members(Members& m)
 {
-    using O = OptionsXCGM;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsXCGM")
-        .key(L"default_color_mode", &O::m_defaultColorMode)
-        .key(L"graphical_pmi_container_mode", &O::m_graphicalPMIContainerMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"default_color_mode", m_defaultColorMode)
+        .enumeration(L"graphical_pmi_container_mode", m_graphicalPMIContainerMode);
 }
+HRM_MEMBER_IO(OptionsXCGM, "OptionsXCGM")
 
-const OptionsKeyTable& OptionsSTL::keyTable()
+template <class Members>
+void OptionsSTL::members(Members& m)
 {
-    using O = OptionsSTL;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsSTL")
-        .key(L"save_mode", &O::m_saveMode);
-    return table;
+    IFormatOptions::members(m);
+    m.enumeration(L"save_mode", m_saveMode);
 }
+HRM_MEMBER_IO(OptionsSTL, "OptionsSTL")
 
-const OptionsKeyTable& OptionsPDF::keyTable()
+template <class Members>
+void OptionsPDF::members(Members& m)
 {
-    using O = OptionsPDF;
-    static const OptionsKeyTable table = OptionsKeys<O>("OptionsPDF")
-        .key(L"title", &O::m_title)
-        .key(L"author_name", &O::m_authorName)
-        .key(L"units", &O::m_units)
-        .key(L"visu_pmi_mode", &O::m_visuPMIMode)
-        .key(L"background_color", &O::m_backgroundColor);
-    return table;
+    IFormatOptions::members(m);
+    m.string(L"title", m_title)
+        .string(L"author_name", m_authorName)
+        .enumeration(L"units", m_units)
+        .enumeration(L"visu_pmi_mode", m_visuPMIMode)
+        .object(L"background_color", m_backgroundColor, Nested::OnlyObjects);
 }
+HRM_MEMBER_IO(OptionsPDF, "OptionsPDF")
 
 } // namespace hrm::exp

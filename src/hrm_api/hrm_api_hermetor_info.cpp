@@ -1,6 +1,6 @@
 #include <hrm_api/hrm_api_hermetor_info.h>
 
-#include "hrm_api/hrm_api_command_words.h"
+#include "hrm_api/hrm_api_enum_table.h"
 #include "hrm_api/hrm_api_json_members.h"
 
 #include <algorithm>
@@ -8,22 +8,13 @@
 #include <stdexcept>
 
 namespace hrm {
-namespace {
 
-// An array of the non-null children, each written by itself.
-template <class T>
-void writeChildren(JsonObjectWriter& out, const wchar_t* key, const std::vector<std::shared_ptr<T>>& children)
-{
-    JsonValue array(rapidjson::kArrayType);
-    for (const auto& child : children) {
-        if (!child)
-            continue;
-        JsonValue element;
-        child->writeObject(element, out.allocator());
-        array.PushBack(element, out.allocator());
-    }
-    out.add(key, std::move(array));
-}
+// "kernel" names the kernel mode; every other word the direct one.
+HRM_ENUM_STRINGS_UNKNOWN_AS(EParasolidMode, EParasolidMode::Direct,
+    {EParasolidMode::Direct, L"direct"},
+    {EParasolidMode::Kernel, L"kernel"})
+
+namespace {
 
 template <class T>
 bool sameChildren(const std::vector<std::shared_ptr<T>>& a, const std::vector<std::shared_ptr<T>>& b)
@@ -33,24 +24,30 @@ bool sameChildren(const std::vector<std::shared_ptr<T>>& a, const std::vector<st
     });
 }
 
-// Element readers refuse anything but an object, so that a malformed info document is rejected.
-void requireObject(const JsonValue& value, const char* message)
+// Cores and formats refuse anything but an object, so that a malformed info document is rejected.
+template <class T>
+void readStrictly(T& object, const JsonValue& value, const char* message)
 {
-    if (!value.IsObject())
-        throw std::invalid_argument(message);
+    MemberReader in = strictReader(value, message);
+    MemberAccess::members(object, in);
 }
 
 } // namespace
 
+template <class Members>
+void ThirdpartyCore::members(Members& m)
+{
+    m.string(L"name", m_name).string(L"version", m_version);
+}
+
 void ThirdpartyCore::readObject(const JsonValue& value)
 {
-    requireObject(value, "ThirdpartyCore::readFrom > !jsonObject.IsObject()");
-    JsonObjectReader(value).string(L"name", m_name).string(L"version", m_version);
+    readStrictly(*this, value, "ThirdpartyCore::readFrom > !jsonObject.IsObject()");
 }
 
 void ThirdpartyCore::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    JsonObjectWriter(value, allocator).string(L"name", m_name).string(L"version", m_version);
+    writeMembers(*this, value, allocator);
 }
 
 Format& Format::addFilterExtensions(const std::vector<std::wstring>& extensions)
@@ -75,21 +72,23 @@ bool Format::is(const std::wstring& name) const
     });
 }
 
+// Whole arrays of strings or nothing: a list with a non-string element leaves the field.
+template <class Members>
+void Format::members(Members& m)
+{
+    m.string(L"description", m_description)
+        .allStrings(L"extensions", m_extensions)
+        .allStrings(L"filters", m_filterExtensions);
+}
+
 void Format::readObject(const JsonValue& value)
 {
-    requireObject(value, "Format::readFrom > !jsonObject.IsObject()");
-    JsonObjectReader(value)
-        .string(L"description", m_description)
-        .strings(L"extensions", m_extensions)
-        .strings(L"filters", m_filterExtensions);
+    readStrictly(*this, value, "Format::readFrom > !jsonObject.IsObject()");
 }
 
 void Format::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    JsonObjectWriter(value, allocator)
-        .string(L"description", m_description)
-        .strings(L"extensions", m_extensions)
-        .strings(L"filters", m_filterExtensions);
+    writeMembers(*this, value, allocator);
 }
 
 bool Format::operator==(const Format& other) const
@@ -123,22 +122,33 @@ void HermetorInfo::addExportFormats(const Formats& formats)
     m_exportFormats.insert(m_exportFormats.end(), formats.begin(), formats.end());
 }
 
+// Lists are written only when they hold something; reading appends to those held.
+template <class Members>
+void HermetorInfo::members(Members& m)
+{
+    m.string(L"name", m_name)
+        .string(L"version", m_version)
+        .enumeration(L"hermetor_interface", m_requestedInterface)
+        .writtenIf(!m_thirdpartyCores.empty())
+        .children(L"thirdparty_cores", m_thirdpartyCores);
+    // Written before the formats and read after them, so that a malformed format ends the
+    // reading before the mode.
+    if constexpr (!Members::reading)
+        m.enumeration(L"parasolid_mode", m_parasolidMode);
+    m.writtenIf(!m_importFormats.empty())
+        .children(L"import_formats", m_importFormats)
+        .writtenIf(!m_exportFormats.empty())
+        .children(L"export_formats", m_exportFormats);
+    if constexpr (Members::reading)
+        m.enumeration(L"parasolid_mode", m_parasolidMode);
+    m.int32(L"modeler_version", m_modelerMajorVersion);
+}
+
 void HermetorInfo::writeObject(std::wostream& out) const
 {
     HRM_TRACE();
-    JsonDocument document;
-    JsonObjectWriter root(document, document.GetAllocator());
-    root.string(L"name", m_name)
-        .string(L"version", m_version)
-        .string(L"hermetor_interface", interfaceWord(m_requestedInterface));
-    if (!m_thirdpartyCores.empty())
-        writeChildren(root, L"thirdparty_cores", m_thirdpartyCores);
-    root.string(L"parasolid_mode", m_parasolidMode == EParasolidMode::Kernel ? L"kernel" : L"direct");
-    if (!m_importFormats.empty())
-        writeChildren(root, L"import_formats", m_importFormats);
-    if (!m_exportFormats.empty())
-        writeChildren(root, L"export_formats", m_exportFormats);
-    root.int32(L"modeler_version", m_modelerMajorVersion);
+    JsonDocument document(rapidjson::kObjectType);
+    writeMembers(*this, document, document.GetAllocator());
     JsonTextIO::write(out, document, true);
 }
 
@@ -147,16 +157,7 @@ void HermetorInfo::readObject(std::wistream& in)
     HRM_TRACE();
     JsonDocument document;
     readObjectDocument(in, document);
-    JsonObjectReader members(document);
-    members.string(L"name", m_name).string(L"version", m_version);
-    if (const JsonValue* word = members.find(L"hermetor_interface"); word && word->IsString())
-        m_requestedInterface = interfaceFromWord(wideString(*word));
-    members.objects(L"thirdparty_cores", m_thirdpartyCores)
-        .objects(L"import_formats", m_importFormats)
-        .objects(L"export_formats", m_exportFormats);
-    if (const JsonValue* mode = members.find(L"parasolid_mode"); mode && mode->IsString())
-        m_parasolidMode = wideString(*mode) == L"kernel" ? EParasolidMode::Kernel : EParasolidMode::Direct;
-    members.int32(L"modeler_version", m_modelerMajorVersion);
+    readMembers(*this, document, nullptr);
 }
 
 bool HermetorInfo::operator==(const HermetorInfo& other) const

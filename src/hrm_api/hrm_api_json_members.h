@@ -1,49 +1,68 @@
 #pragma once
 
-// Reading and writing the members of a JSON object, one line per member.
+// The member layer: every class states its JSON members once, in one list that serves both
+// directions. The list is a member function template over a "Members" that is either a
+// MemberReader or a MemberWriter; both offer the same verbs, so the keys are read in the order
+// they are written by construction:
 //
-//   void ExcThing::writeObject(JsonValue& value, JsonAllocator& allocator) const
+//   // in the class (header):      HRM_MEMBER_LIST;
+//   // in the source:
+//   template <class Members>
+//   void ExcBlockReference::members(Members& m)
 //   {
-//       JsonObjectWriter(value, allocator).string(L"name", m_name).uint64(L"id", m_id)
-//           .object(L"color", m_color);
+//       m.string(L"guid", m_guid).uint64(L"block_id", m_blockId).boolean(L"hidden", m_hidden)
+//           .object(L"transformation", m_transformation).children(L"refs", m_refs, adder(this, &X::addRef));
 //   }
-//   void ExcThing::readObject(const JsonValue& value)
-//   {
-//       JsonObjectReader in(value, "ExcThing"); // logs "ExcThing object should have a JSON object type."
-//       in.string(L"name", m_name).uint64(L"id", m_id).object(L"color", m_color);
-//   }
+//   HRM_MEMBER_IO(ExcBlockReference, "ExcBlockReference")   // readObject and writeObject
 //
-// The rules every member follows:
-// - a member is written under a constant key (not copied: keys are string literals);
-// - on reading, a member that is missing or not of the expected JSON kind leaves the field
-//   unchanged, silently; numbers are strict about their kind: int32 wants a value that fits a
-//   signed 32-bit integer, uint64 an unsigned 64-bit one, real a value stored as a double;
-// - when the value is not an object at all, every read is a no-op (and the reader logs one
-//   error line if it was given a class name).
+// A derived class calls its base's list first (Base::members(m)); the value-is-an-object check
+// happens once per chain, in readMembers, and names the most derived class. Where a class reads
+// in another order than it writes, or writes a key it never reads, it writes that part by hand
+// (`if constexpr (Members::reading)`), beside the list.
 //
-// Fixed-size arrays (vectors, colour channels, matrix rows) are read element by element with
-// readLeadingElements and an element rule such as readStoredDouble; arrays of doubles are
-// written with jsonDoubles. Lists of strings and sets of enumerations travel as arrays of
-// strings (strings, enumerations); on reading, only an array of strings replaces the field.
+// The reading rules every verb follows: a member that is missing, or not of the verb's JSON
+// kind, leaves its field unchanged, silently. Numbers are strict about their kind where the
+// verb says so (int32, uint64, storedDouble); `number` takes any JSON number. Arrays of
+// children are appended to, never cleared first.
 
+#include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_enum.h>
 #include <hrm_api/hrm_api_json.h>
 #include <logging/ax_herm_logger.h>
 
+#include <array>
 #include <cstdint>
-#include <stdexcept>
+#include <cstring>
 #include <iterator>
 #include <memory>
 #include <set>
+#include <stdexcept>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace hrm {
+
+// ---- Small helpers shared by the verbs and by hand-written readers -------------------------
 
 // A JSON string value copied from `text` into `allocator`.
 inline JsonValue jsonString(const std::wstring& text, JsonAllocator& allocator)
 {
     return JsonValue(text.data(), static_cast<rapidjson::SizeType>(text.size()), allocator);
+}
+
+// The wide string held by a JSON string value.
+inline std::wstring wideString(const JsonValue& value)
+{
+    return std::wstring(value.GetString(), value.GetStringLength());
+}
+
+// The value of a JSON string value in E's table, without allocating.
+template <class E>
+E enumFromJson(const JsonValue& value)
+{
+    return enumFromWord<E>(value.GetString(), value.GetStringLength());
 }
 
 // Parses the whole of `in` as the document of a serialisable object: the root must be a JSON
@@ -53,12 +72,6 @@ inline void readObjectDocument(std::wistream& in, JsonDocument& document)
     JsonTextIO::read(in, document);
     if (document.HasParseError() || !document.IsObject())
         throw std::invalid_argument("Invalid json document");
-}
-
-// The wide string held by a JSON string value.
-inline std::wstring wideString(const JsonValue& value)
-{
-    return std::wstring(value.GetString(), value.GetStringLength());
 }
 
 // A JSON array of the doubles in [first, last), each stored as a double (1.0 stays 1.0).
@@ -97,234 +110,596 @@ void readLeadingElements(const JsonValue& array, Iterator first, Iterator last, 
     }
 }
 
-class JsonObjectWriter
+// A new T read from `value` by T itself (so a value of the wrong kind gives a default T and
+// T's own log line).
+template <class T>
+std::shared_ptr<T> readNew(const JsonValue& value)
 {
-public:
-    // Makes `value` an empty object.
-    JsonObjectWriter(JsonValue& value, JsonAllocator& allocator) : m_value(value), m_allocator(allocator)
-    {
-        m_value.SetObject();
+    auto child = std::make_shared<T>();
+    child->readObject(value);
+    return child;
+}
+
+// Appends `child` to `list`; a null child is refused with a warning and adds nothing.
+template <class T>
+void appendChild(std::vector<std::shared_ptr<T>>& list, std::shared_ptr<T> child, const char* nullMessage)
+{
+    if (!child) {
+        HRM_LOG(ax_herm::Warning) << nullMessage;
+        return;
     }
+    list.push_back(std::move(child));
+}
 
-    JsonObjectWriter& string(const wchar_t* key, const std::wstring& text)
-    {
-        return add(key, jsonString(text, m_allocator));
+// The sink that hands each child read from an array to an adder of `object` (so that the
+// adder's own rules, an id index say, apply while reading).
+template <class Object, class T>
+auto adder(Object* object, void (Object::*add)(const std::shared_ptr<T>&))
+{
+    return [object, add](std::shared_ptr<T> child) { (object->*add)(child); };
+}
+
+// The array form of a list of children: one element per child, each written by the child
+// itself; null children are left out.
+template <class T>
+void writeChildArray(const std::vector<std::shared_ptr<T>>& children, JsonValue& array, JsonAllocator& allocator)
+{
+    array.SetArray();
+    array.Reserve(static_cast<rapidjson::SizeType>(children.size()), allocator);
+    for (const auto& child : children) {
+        if (!child)
+            continue;
+        JsonValue element;
+        child->writeObject(element, allocator);
+        array.PushBack(element, allocator);
     }
-    JsonObjectWriter& boolean(const wchar_t* key, bool flag) { return add(key, JsonValue(flag)); }
-    JsonObjectWriter& int32(const wchar_t* key, int32_t number) { return add(key, JsonValue(number)); }
-    JsonObjectWriter& uint32(const wchar_t* key, uint32_t number) { return add(key, JsonValue(number)); }
-    JsonObjectWriter& int64(const wchar_t* key, int64_t number) { return add(key, JsonValue(number)); }
-    JsonObjectWriter& uint64(const wchar_t* key, uint64_t number) { return add(key, JsonValue(number)); }
-    JsonObjectWriter& real(const wchar_t* key, double number) { return add(key, JsonValue(number)); }
+}
 
-    template <class E>
-    JsonObjectWriter& enumeration(const wchar_t* key, E value)
-    {
-        return string(key, enumToString(value));
-    }
+// Reads each element of `array` into a new T and hands it to `sink`. A value that is not an
+// array reads nothing.
+template <class T, class Sink>
+void readChildArray(const JsonValue& array, Sink&& sink)
+{
+    if (!array.IsArray())
+        return;
+    for (const JsonValue& element : array.GetArray())
+        sink(readNew<T>(element));
+}
 
-    // The child writes itself into a new member value.
-    JsonObjectWriter& object(const wchar_t* key, const IJsonObject& child)
-    {
-        JsonValue member;
-        child.writeObject(member, m_allocator);
-        return add(key, std::move(member));
-    }
+// ---- Verbs ---------------------------------------------------------------------------------
 
-    // An array with one element per child, each written by the child itself.
-    template <class T>
-    JsonObjectWriter& objects(const wchar_t* key, const std::vector<std::shared_ptr<T>>& children)
-    {
-        JsonValue array(rapidjson::kArrayType);
-        array.Reserve(static_cast<rapidjson::SizeType>(children.size()), m_allocator);
-        for (const auto& child : children) {
-            JsonValue element;
-            if (child)
-                child->writeObject(element, m_allocator);
-            array.PushBack(element, m_allocator);
-        }
-        return add(key, std::move(array));
-    }
-
-    // An array of strings, one per element.
-    JsonObjectWriter& strings(const wchar_t* key, const std::vector<std::wstring>& texts)
-    {
-        const auto same = [](const std::wstring& text) -> const std::wstring& { return text; };
-        return add(key, stringArray(texts.begin(), texts.end(), same));
-    }
-
-    // An array with the word of each value, in ascending order of value.
-    template <class E>
-    JsonObjectWriter& enumerations(const wchar_t* key, const std::set<E>& values)
-    {
-        const auto word = [](E value) -> const std::wstring& { return enumToString(value); };
-        return add(key, stringArray(values.begin(), values.end(), word));
-    }
-
-    JsonObjectWriter& add(const wchar_t* key, JsonValue&& member)
-    {
-        m_value.AddMember(rapidjson::StringRef(key), member, m_allocator);
-        return *this;
-    }
-
-    JsonAllocator& allocator() { return m_allocator; }
-
-private:
-    template <class Iterator, class ToText>
-    JsonValue stringArray(Iterator first, Iterator last, ToText toText)
-    {
-        JsonValue array(rapidjson::kArrayType);
-        array.Reserve(static_cast<rapidjson::SizeType>(std::distance(first, last)), m_allocator);
-        for (; first != last; ++first)
-            array.PushBack(jsonString(toText(*first), m_allocator), m_allocator);
-        return array;
-    }
-
-    JsonValue& m_value;
-    JsonAllocator& m_allocator;
+// How a nested value object takes a member that is not a JSON object: by default the child
+// reads whatever the member holds with its own rules (a colour read from null clears its
+// flags); OnlyObjects hands it objects only and leaves the field for anything else.
+enum class Nested
+{
+    AnyValue,
+    OnlyObjects,
 };
 
-class JsonObjectReader
+namespace members_detail {
+
+template <class T>
+using IsJsonObject = std::is_base_of<IJsonObject, T>;
+
+// Fixed-size array slots: how one element becomes one field.
+inline bool readSlot(const JsonValue& element, std::wstring& field)
+{
+    if (!element.IsString())
+        return false;
+    field = wideString(element);
+    return true;
+}
+inline bool readSlot(const JsonValue& element, double& field)
+{
+    if (!element.IsNumber())
+        return false;
+    field = element.GetDouble();
+    return true;
+}
+template <class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
+bool readSlot(const JsonValue& element, E& field)
+{
+    if (!element.IsString())
+        return false;
+    field = enumFromJson<E>(element);
+    return true;
+}
+inline bool readSlot(const JsonValue& element, IJsonObject& field)
+{
+    field.readObject(element);
+    return true;
+}
+
+inline JsonValue writeSlot(const std::wstring& field, JsonAllocator& allocator) { return jsonString(field, allocator); }
+inline JsonValue writeSlot(double field, JsonAllocator&) { return JsonValue(field); }
+inline JsonValue writeSlot(int32_t field, JsonAllocator&) { return JsonValue(field); }
+// Words are the library's own constant strings: the document refers to them without a copy.
+template <class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
+JsonValue writeSlot(E field, JsonAllocator&)
+{
+    const std::wstring& word = enumToString(field);
+    return JsonValue(rapidjson::StringRef(word.data(), static_cast<rapidjson::SizeType>(word.size())));
+}
+inline JsonValue writeSlot(const IJsonObject& field, JsonAllocator& allocator)
+{
+    JsonValue value;
+    field.writeObject(value, allocator);
+    return value;
+}
+
+} // namespace members_detail
+
+// Reads the members of one JSON object. Made by readMembers once the value is known to be an
+// object; hand-written readers may make one themselves.
+class MemberReader
 {
 public:
-    // Reads members of `value`; when it is not an object, nothing is read, silently.
-    explicit JsonObjectReader(const JsonValue& value) : m_value(value.IsObject() ? &value : nullptr) {}
+    static constexpr bool reading = true;
 
-    // The same, but a value that is not an object is reported at the error level as
-    // "<className> object should have a JSON object type."
-    JsonObjectReader(const JsonValue& value, const char* className) : JsonObjectReader(value)
-    {
-        if (!m_value)
-            HRM_LOG(ax_herm::Error) << className << " object should have a JSON object type.";
-    }
+    // `object` must be a JSON object and outlive the reader (a temporary does not compile).
+    explicit MemberReader(const JsonValue& object) : m_object(object) {}
+    explicit MemberReader(const JsonValue&& object) = delete;
 
-    explicit operator bool() const { return m_value != nullptr; }
-
-    // The member under `key`, or null when the value is not an object or has no such member.
+    // The member under `key`, or null.
     const JsonValue* find(const wchar_t* key) const
     {
-        if (!m_value)
-            return nullptr;
-        const auto it = m_value->FindMember(key);
-        return it == m_value->MemberEnd() ? nullptr : &it->value;
+        const auto it = m_object.FindMember(key);
+        return it == m_object.MemberEnd() ? nullptr : &it->value;
     }
 
-    JsonObjectReader& string(const wchar_t* key, std::wstring& field)
+    // Conditions on writing only: the reader reads the next member whenever it is present.
+    MemberReader& writtenIf(bool) { return *this; }
+
+    MemberReader& string(const wchar_t* key, std::wstring& field)
     {
         if (const JsonValue* member = find(key); member && member->IsString())
-            field = wideString(*member);
+            field.assign(member->GetString(), member->GetStringLength());
         return *this;
     }
-    JsonObjectReader& boolean(const wchar_t* key, bool& field)
+    MemberReader& boolean(const wchar_t* key, bool& field)
     {
         if (const JsonValue* member = find(key); member && member->IsBool())
             field = member->GetBool();
         return *this;
     }
-    JsonObjectReader& int32(const wchar_t* key, int32_t& field)
+    // A value that fits a signed 32-bit integer.
+    MemberReader& int32(const wchar_t* key, int32_t& field)
     {
         if (const JsonValue* member = find(key); member && member->IsInt())
             field = member->GetInt();
         return *this;
     }
-    JsonObjectReader& uint32(const wchar_t* key, uint32_t& field)
-    {
-        if (const JsonValue* member = find(key); member && member->IsUint())
-            field = member->GetUint();
-        return *this;
-    }
-    JsonObjectReader& int64(const wchar_t* key, int64_t& field)
-    {
-        if (const JsonValue* member = find(key); member && member->IsInt64())
-            field = member->GetInt64();
-        return *this;
-    }
-    JsonObjectReader& uint64(const wchar_t* key, uint64_t& field)
+    // A value that fits an unsigned 64-bit integer (so not -1, and not 7.0).
+    MemberReader& uint64(const wchar_t* key, uint64_t& field)
     {
         if (const JsonValue* member = find(key); member && member->IsUint64())
             field = member->GetUint64();
         return *this;
     }
-    // Only a number stored as a double: an integer literal such as 7 leaves the field as it is.
-    JsonObjectReader& real(const wchar_t* key, double& field)
+    // Any JSON number, integer or real.
+    MemberReader& number(const wchar_t* key, double& field)
+    {
+        if (const JsonValue* member = find(key); member && member->IsNumber())
+            field = member->GetDouble();
+        return *this;
+    }
+    // Only a number stored as a double: an integer such as 7 leaves the field as it is.
+    MemberReader& storedDouble(const wchar_t* key, double& field)
     {
         if (const JsonValue* member = find(key); member && member->IsDouble())
             field = member->GetDouble();
         return *this;
     }
-
+    // A word of E's table (an unknown word reads by the table's rule).
     template <class E>
-    JsonObjectReader& enumeration(const wchar_t* key, E& field)
+    MemberReader& enumeration(const wchar_t* key, E& field)
     {
         if (const JsonValue* member = find(key); member && member->IsString())
-            field = enumFromString<E>(wideString(*member));
+            field = enumFromJson<E>(*member);
+        return *this;
+    }
+    // A word that must name `expected`: a word naming another value is logged at the error
+    // level with `message`; nothing is stored.
+    template <class E>
+    MemberReader& expect(const wchar_t* key, E expected, const char* message)
+    {
+        if (const JsonValue* member = find(key); member && member->IsString() && enumFromJson<E>(*member) != expected)
+            HRM_LOG(ax_herm::Error) << message;
         return *this;
     }
 
-    // The child reads itself from the member, whatever its JSON kind: the child's own reader
-    // decides what it accepts.
-    JsonObjectReader& object(const wchar_t* key, IJsonObject& child)
+    // A value object held by value reads the member itself.
+    MemberReader& object(const wchar_t* key, IJsonObject& field, Nested rule = Nested::AnyValue)
+    {
+        if (const JsonValue* member = find(key); member && (rule == Nested::AnyValue || member->IsObject()))
+            field.readObject(*member);
+        return *this;
+    }
+    // A shared child: a present member makes a new T, read from it, that replaces the field.
+    template <class T>
+    MemberReader& child(const wchar_t* key, std::shared_ptr<T>& field)
     {
         if (const JsonValue* member = find(key))
-            child.readObject(*member);
+            field = readNew<T>(*member);
         return *this;
     }
-
-    // Appends one new child per array element, each read by the child itself.
+    // A polymorphic child: a present member replaces the field by what `factory(member)`
+    // makes of it (possibly null).
+    template <class T, class Factory>
+    MemberReader& child(const wchar_t* key, std::shared_ptr<T>& field, Factory factory)
+    {
+        if (const JsonValue* member = find(key))
+            field = factory(*member);
+        return *this;
+    }
+    // An array of shared children: each element becomes a new T, read from it and appended
+    // (or handed to `sink`, an adder say).
+    template <class T, class Sink>
+    MemberReader& children(const wchar_t* key, std::vector<std::shared_ptr<T>>& /*appended by sink*/, Sink sink)
+    {
+        if (const JsonValue* member = find(key))
+            readChildArray<T>(*member, sink);
+        return *this;
+    }
     template <class T>
-    JsonObjectReader& objects(const wchar_t* key, std::vector<std::shared_ptr<T>>& children)
+    MemberReader& children(const wchar_t* key, std::vector<std::shared_ptr<T>>& field)
+    {
+        return children(key, field, [&field](std::shared_ptr<T> child) { field.push_back(std::move(child)); });
+    }
+    // An array of value objects held by value: each element is read into a new T and appended.
+    template <class T, std::enable_if_t<members_detail::IsJsonObject<T>::value, int> = 0>
+    MemberReader& values(const wchar_t* key, std::vector<T>& field)
     {
         const JsonValue* member = find(key);
         if (!member || !member->IsArray())
             return *this;
-        children.reserve(children.size() + member->Size());
         for (const JsonValue& element : member->GetArray()) {
-            auto child = std::make_shared<T>();
-            child->readObject(element);
-            children.push_back(std::move(child));
+            T value;
+            value.readObject(element);
+            field.push_back(std::move(value));
+        }
+        return *this;
+    }
+    // An array of strings: each string element is appended; other elements are skipped.
+    MemberReader& strings(const wchar_t* key, std::vector<std::wstring>& field)
+    {
+        const JsonValue* member = find(key);
+        if (!member || !member->IsArray())
+            return *this;
+        for (const JsonValue& element : member->GetArray()) {
+            if (element.IsString())
+                field.emplace_back(element.GetString(), element.GetStringLength());
+        }
+        return *this;
+    }
+    // An array of strings that replaces the field only when every element is a string.
+    MemberReader& allStrings(const wchar_t* key, std::vector<std::wstring>& field)
+    {
+        if (const JsonValue* member = onlyStrings(key)) {
+            field.clear();
+            for (const JsonValue& element : member->GetArray())
+                field.emplace_back(element.GetString(), element.GetStringLength());
+        }
+        return *this;
+    }
+    // A set of enumeration values as an array of words, replacing the field only when every
+    // element is a string.
+    template <class E>
+    MemberReader& enumerations(const wchar_t* key, std::set<E>& field)
+    {
+        if (const JsonValue* member = onlyStrings(key)) {
+            field.clear();
+            for (const JsonValue& element : member->GetArray())
+                field.insert(enumFromJson<E>(element));
+        }
+        return *this;
+    }
+    // An array of 32-bit integers: each such element is appended; other elements are skipped.
+    MemberReader& ints(const wchar_t* key, std::vector<int32_t>& field)
+    {
+        const JsonValue* member = find(key);
+        if (!member || !member->IsArray())
+            return *this;
+        for (const JsonValue& element : member->GetArray()) {
+            if (element.IsInt())
+                field.push_back(element.GetInt());
         }
         return *this;
     }
 
-    // An array whose elements are all strings replaces `field`; anything else leaves it.
-    JsonObjectReader& strings(const wchar_t* key, std::vector<std::wstring>& field)
+    // An array of exactly N elements, one per field. An array of another size is logged at the
+    // warning level with `message` and leaves every field. Slot rules: a number slot takes any
+    // number and becomes 0 for anything else; a string or enumeration slot keeps its value for
+    // anything but a string; a value-object slot reads the element itself. A member that is no
+    // array is skipped silently.
+    template <class T, std::size_t N>
+    MemberReader& exactly(const wchar_t* key, std::array<T, N>& fields, const char* message)
     {
-        return stringArray(key, [&field](const JsonValue& array) {
-            field.clear();
-            for (const JsonValue& element : array.GetArray())
-                field.push_back(wideString(element));
-        });
+        const JsonValue* member = find(key);
+        if (!member || !member->IsArray())
+            return *this;
+        if (member->Size() != N) {
+            HRM_LOG(ax_herm::Warning) << message;
+            return *this;
+        }
+        for (std::size_t i = 0; i < N; ++i) {
+            if (!members_detail::readSlot((*member)[static_cast<rapidjson::SizeType>(i)], fields[i])) {
+                if constexpr (std::is_same_v<T, double>)
+                    fields[i] = 0.0;
+            }
+        }
+        return *this;
+    }
+    // The leading elements of an array, at most N, one per field in order; reading stops at the
+    // first element the slot refuses (a non-number for a number, a non-string for a string).
+    template <class T, std::size_t N>
+    MemberReader& leading(const wchar_t* key, std::array<T, N>& fields)
+    {
+        if (const JsonValue* member = find(key))
+            readLeadingElements(*member, fields.begin(), fields.end(),
+                                [](const JsonValue& element, T& field) { return members_detail::readSlot(element, field); });
+        return *this;
     }
 
-    // An array whose elements are all strings replaces `field` by the values of those words;
-    // anything else (another kind, or an array holding a non-string) leaves it.
-    template <class E>
-    JsonObjectReader& enumerations(const wchar_t* key, std::set<E>& field)
+    // A packed array: the little-endian bytes of 32-bit values as one Base64 string. The
+    // decoded byte count is cut down to whole values; a member that is no string is skipped.
+    template <class T>
+    MemberReader& packed(const wchar_t* key, std::vector<T>& field)
     {
-        return stringArray(key, [&field](const JsonValue& array) {
-            field.clear();
-            for (const JsonValue& element : array.GetArray())
-                field.insert(enumFromString<E>(wideString(element)));
-        });
+        static_assert(sizeof(T) == 4, "packed arrays hold 32-bit values");
+        if (const JsonValue* member = find(key); member && member->IsString())
+            Base64::decode(member->GetString(), member->GetStringLength(), field);
+        return *this;
     }
 
 private:
-    // Hands the member to `store` when it is an array of strings only.
-    template <class Store>
-    JsonObjectReader& stringArray(const wchar_t* key, Store store)
+    // The member under `key` when it is an array of strings only.
+    const JsonValue* onlyStrings(const wchar_t* key) const
     {
         const JsonValue* member = find(key);
         if (!member || !member->IsArray())
-            return *this;
+            return nullptr;
         for (const JsonValue& element : member->GetArray()) {
             if (!element.IsString())
-                return *this;
+                return nullptr;
         }
-        store(*member);
+        return member;
+    }
+
+    const JsonValue& m_object;
+};
+
+// Adds members to one JSON object under constant keys (string literals, not copied).
+class MemberWriter
+{
+public:
+    static constexpr bool reading = false;
+
+    // `object` must already be a JSON object.
+    MemberWriter(JsonValue& object, JsonAllocator& allocator) : m_object(object), m_allocator(allocator) {}
+
+    JsonAllocator& allocator() { return m_allocator; }
+
+    // The next member is written only when `condition` holds.
+    MemberWriter& writtenIf(bool condition)
+    {
+        m_skipNext = !condition;
         return *this;
     }
 
-    const JsonValue* m_value;
+    MemberWriter& string(const wchar_t* key, const std::wstring& field) { return add(key, jsonString(field, m_allocator)); }
+    MemberWriter& boolean(const wchar_t* key, bool field) { return add(key, JsonValue(field)); }
+    MemberWriter& int32(const wchar_t* key, int32_t field) { return add(key, JsonValue(field)); }
+    MemberWriter& uint64(const wchar_t* key, uint64_t field) { return add(key, JsonValue(field)); }
+    MemberWriter& number(const wchar_t* key, double field) { return add(key, JsonValue(field)); }
+    MemberWriter& storedDouble(const wchar_t* key, double field) { return add(key, JsonValue(field)); }
+    template <class E>
+    MemberWriter& enumeration(const wchar_t* key, E field)
+    {
+        return add(key, members_detail::writeSlot(field, m_allocator));
+    }
+    template <class E>
+    MemberWriter& expect(const wchar_t* key, E expected, const char*)
+    {
+        return enumeration(key, expected);
+    }
+
+    MemberWriter& object(const wchar_t* key, const IJsonObject& field, Nested = Nested::AnyValue)
+    {
+        return add(key, members_detail::writeSlot(field, m_allocator));
+    }
+    // A shared child is written only when it is not null.
+    template <class T>
+    MemberWriter& child(const wchar_t* key, const std::shared_ptr<T>& field)
+    {
+        if (!field)
+            m_skipNext = true;
+        return add(key, [&] { return members_detail::writeSlot(*field, m_allocator); });
+    }
+    template <class T, class Factory>
+    MemberWriter& child(const wchar_t* key, const std::shared_ptr<T>& field, Factory)
+    {
+        return child(key, field);
+    }
+    template <class T, class Sink>
+    MemberWriter& children(const wchar_t* key, const std::vector<std::shared_ptr<T>>& field, Sink)
+    {
+        return children(key, field);
+    }
+    template <class T>
+    MemberWriter& children(const wchar_t* key, const std::vector<std::shared_ptr<T>>& field)
+    {
+        return add(key, [&] {
+            JsonValue array;
+            writeChildArray(field, array, m_allocator);
+            return array;
+        });
+    }
+    template <class T, std::enable_if_t<members_detail::IsJsonObject<T>::value, int> = 0>
+    MemberWriter& values(const wchar_t* key, const std::vector<T>& field)
+    {
+        return array(key, field);
+    }
+    MemberWriter& strings(const wchar_t* key, const std::vector<std::wstring>& field) { return array(key, field); }
+    MemberWriter& allStrings(const wchar_t* key, const std::vector<std::wstring>& field) { return array(key, field); }
+    // The words in ascending order of value.
+    template <class E>
+    MemberWriter& enumerations(const wchar_t* key, const std::set<E>& field)
+    {
+        return array(key, field);
+    }
+    MemberWriter& ints(const wchar_t* key, const std::vector<int32_t>& field) { return array(key, field); }
+
+    template <class T, std::size_t N>
+    MemberWriter& exactly(const wchar_t* key, const std::array<T, N>& fields, const char*)
+    {
+        return array(key, fields);
+    }
+    template <class T, std::size_t N>
+    MemberWriter& leading(const wchar_t* key, const std::array<T, N>& fields)
+    {
+        return array(key, fields);
+    }
+
+    // A packed array is written only when it holds values: Base64 of its little-endian bytes,
+    // encoded straight into the document's memory.
+    template <class T>
+    MemberWriter& packed(const wchar_t* key, const std::vector<T>& field)
+    {
+        static_assert(sizeof(T) == 4, "packed arrays hold 32-bit values");
+        if (field.empty())
+            m_skipNext = true;
+        return add(key, [&] {
+            const size_t bytes = field.size() * sizeof(T);
+            auto* text = static_cast<wchar_t*>(m_allocator.Malloc(Base64::encodedSize(bytes) * sizeof(wchar_t)));
+            const size_t length = Base64::encodeInto(text, field.data(), bytes);
+            return JsonValue(rapidjson::StringRef(text, static_cast<rapidjson::SizeType>(length)));
+        });
+    }
+
+    // Adds `member` under `key` (unless writtenIf said otherwise).
+    MemberWriter& add(const wchar_t* key, JsonValue&& member)
+    {
+        return add(key, [&] { return std::move(member); });
+    }
+
+private:
+    // Adds the value `make()` returns, made only when the member is written.
+    template <class Make, std::enable_if_t<std::is_invocable_r_v<JsonValue, Make>, int> = 0>
+    MemberWriter& add(const wchar_t* key, Make make)
+    {
+        if (m_skipNext) {
+            m_skipNext = false;
+            return *this;
+        }
+        JsonValue member = make();
+        m_object.AddMember(rapidjson::StringRef(key), member, m_allocator);
+        return *this;
+    }
+
+    // An array with one element per item, each written by its slot rule.
+    template <class Range>
+    MemberWriter& array(const wchar_t* key, const Range& items)
+    {
+        return add(key, [&] {
+            JsonValue array(rapidjson::kArrayType);
+            array.Reserve(static_cast<rapidjson::SizeType>(std::size(items)), m_allocator);
+            for (const auto& item : items)
+                array.PushBack(members_detail::writeSlot(item, m_allocator), m_allocator);
+            return array;
+        });
+    }
+
+    JsonValue& m_object;
+    JsonAllocator& m_allocator;
+    bool m_skipNext = false;
 };
 
+// The reader of a value that must be a JSON object: anything else throws
+// std::invalid_argument(message).
+inline MemberReader strictReader(const JsonValue& value, const char* message)
+{
+    if (!value.IsObject())
+        throw std::invalid_argument(message);
+    return MemberReader(value);
+}
+
+// A string member that must be present: anything else throws std::invalid_argument(message).
+inline std::wstring requiredString(const MemberReader& in, const wchar_t* key, const char* message)
+{
+    const JsonValue* member = in.find(key);
+    if (!member || !member->IsString())
+        throw std::invalid_argument(message);
+    return wideString(*member);
+}
+
+// Whether two objects write the same JSON (objects compare member by member, in any order).
+inline bool writeSameJson(const IJsonObject& a, const IJsonObject& b)
+{
+    JsonDocument document;
+    JsonValue first;
+    JsonValue second;
+    a.writeObject(first, document.GetAllocator());
+    b.writeObject(second, document.GetAllocator());
+    return first == second;
+}
+
+// ---- Entry points ----------------------------------------------------------------------------
+
+// Opens a class's member list (declared with HRM_MEMBER_LIST) to the entry points.
+class MemberAccess
+{
+public:
+    template <class T, class Members>
+    static void members(T& object, Members& m)
+    {
+        object.members(m);
+    }
+};
+
+// Reads `value` into `object` through its member list. A value that is not an object changes
+// nothing and is logged at the error level as "<className> object should have a JSON object
+// type." (silently when className is null).
+template <class T>
+void readMembers(T& object, const JsonValue& value, const char* className)
+{
+    if (!value.IsObject()) {
+        if (className)
+            HRM_LOG(ax_herm::Error) << className << " object should have a JSON object type.";
+        return;
+    }
+    MemberReader reader(value);
+    MemberAccess::members(object, reader);
+}
+
+// Writes `object` through its member list, turning `value` into an object first if it is not
+// one already.
+template <class T>
+void writeMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
+{
+    if (!value.IsObject())
+        value.SetObject();
+    MemberWriter writer(value, allocator);
+    // The writer only reads the fields; the list is one function for both directions.
+    MemberAccess::members(const_cast<T&>(object), writer);
+}
+
 } // namespace hrm
+
+// Defines T::readObject and T::writeObject from T's member list, and instantiates the list for
+// both directions (so that classes derived from T in other sources can call it). `className`
+// names T in the not-an-object message; nullptr reads a non-object silently.
+#define HRM_MEMBER_IO(T, className)                                                        \
+    template void T::members<::hrm::MemberReader>(::hrm::MemberReader&);                   \
+    template void T::members<::hrm::MemberWriter>(::hrm::MemberWriter&);                   \
+    void T::readObject(const ::hrm::JsonValue& value)                                      \
+    {                                                                                      \
+        HRM_TRACE();                                                                       \
+        ::hrm::readMembers(*this, value, className);                                       \
+    }                                                                                      \
+    void T::writeObject(::hrm::JsonValue& value, ::hrm::JsonAllocator& allocator) const    \
+    {                                                                                      \
+        HRM_TRACE();                                                                       \
+        ::hrm::writeMembers(*this, value, allocator);                                      \
+    }

@@ -15,14 +15,13 @@ public:
 
     bool binary() const override { return true; }
     bool compress() const override { return compressed; }
-    void readObject(const JsonValue& value) override
+    template <class Members>
+    void members(Members& m)
     {
-        JsonObjectReader(value).string(L"text", text).uint64(L"number", number).real(L"real", real);
+        m.string(L"text", text).uint64(L"number", number).storedDouble(L"real", real);
     }
-    void writeObject(JsonValue& value, JsonAllocator& allocator) const override
-    {
-        JsonObjectWriter(value, allocator).string(L"text", text).uint64(L"number", number).real(L"real", real);
-    }
+    void readObject(const JsonValue& value) override { readMembers(*this, value, nullptr); }
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override { writeMembers(*this, value, allocator); }
     bool operator==(const BinaryObject& other) const
     {
         return text == other.text && number == other.number && real == other.real;
