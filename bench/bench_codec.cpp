@@ -1,5 +1,8 @@
 // Throughput of the binary JSON codec, the compressor and Base64, each next to its peer on the
 // same data: RapidJSON's compact text writer and parser (same DOM encoding), raw zlib calls.
+// The compressor runs with every deflate engine built in at the levels worth choosing from
+// (Deflate/<engine>/<level>, with the size of the result), and its inflate beside the
+// engines' own.
 //
 // The JSON benchmarks all count the bytes of the binary encoding of the document, so their
 // MB/s are documents per second in one unit and compare directly.
@@ -10,8 +13,15 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 #include <zlib.h>
+#if defined(HRM_WITH_LIBDEFLATE)
+#include <libdeflate.h>
+#endif
+#if defined(HRM_WITH_IGZIP)
+#include <isa-l/igzip_lib.h>
+#endif
 
 #include <cstring>
+#include <memory>
 #include <random>
 #include <sstream>
 #include <stdexcept>
@@ -254,6 +264,52 @@ void RawDeflate(benchmark::State& state)
     countBinaryBytes(state);
 }
 
+const char* engineName(hrm::DeflateEngine engine)
+{
+    switch (engine) {
+    case hrm::DeflateEngine::zlib:
+        return "zlib";
+    case hrm::DeflateEngine::libdeflate:
+        return "libdeflate";
+    case hrm::DeflateEngine::igzip:
+        return "igzip";
+    }
+    return "?";
+}
+
+// Compressor::compress with an engine at a level; reports the size of the gzip stream.
+void Deflate(benchmark::State& state, hrm::Compression compression)
+{
+    const auto& binary = data().binary;
+    std::vector<char> out;
+    for (auto _ : state) {
+        hrm::Compressor::compress(out, binary.data(), binary.size(), compression);
+        benchmark::DoNotOptimize(out.data());
+    }
+    countBinaryBytes(state);
+    state.counters["gzip_MB"] = static_cast<double>(out.size()) / 1e6;
+}
+
+// Deflate/<engine>/<level> for each engine built in, at the levels worth choosing from.
+bool registerDeflate()
+{
+    const std::pair<hrm::DeflateEngine, std::vector<int>> levels[] = {
+        {hrm::DeflateEngine::zlib, {1}},
+        {hrm::DeflateEngine::libdeflate, {1, 2, 6}},
+        {hrm::DeflateEngine::igzip, {0, 1, 3}},
+    };
+    for (const auto& [engine, engineLevels] : levels) {
+        if (!hrm::Compressor::isAvailable(engine))
+            continue;
+        for (const int level : engineLevels) {
+            const std::string name = std::string("Deflate/") + engineName(engine) + "/" + std::to_string(level);
+            benchmark::RegisterBenchmark(name.c_str(), Deflate, hrm::Compression{engine, level})
+                ->Unit(benchmark::kMillisecond);
+        }
+    }
+    return true;
+}
+
 void Decompress(benchmark::State& state)
 {
     const auto& gzip = compressedData();
@@ -284,6 +340,46 @@ void RawInflate(benchmark::State& state)
     }
     countBinaryBytes(state);
 }
+
+#if defined(HRM_WITH_LIBDEFLATE)
+// libdeflate's inflate into a buffer of the known result size.
+void RawLibdeflateInflate(benchmark::State& state)
+{
+    const auto& gzip = compressedData();
+    libdeflate_decompressor* decompressor = libdeflate_alloc_decompressor();
+    for (auto _ : state) {
+        std::vector<char> out(data().binary.size());
+        if (libdeflate_gzip_decompress(decompressor, gzip.data(), gzip.size(), out.data(), out.size(), nullptr) !=
+            LIBDEFLATE_SUCCESS)
+            throw std::runtime_error("libdeflate inflate failed");
+        benchmark::DoNotOptimize(out.data());
+    }
+    libdeflate_free_decompressor(decompressor);
+    countBinaryBytes(state);
+}
+#endif
+
+#if defined(HRM_WITH_IGZIP)
+// igzip's one-shot inflate into a buffer of the known result size.
+void RawIgzipInflate(benchmark::State& state)
+{
+    const auto& gzip = compressedData();
+    const auto inflater = std::make_unique<inflate_state>();
+    for (auto _ : state) {
+        std::vector<char> out(data().binary.size());
+        isal_inflate_init(inflater.get());
+        inflater->next_in = reinterpret_cast<uint8_t*>(const_cast<char*>(gzip.data()));
+        inflater->avail_in = static_cast<uint32_t>(gzip.size());
+        inflater->next_out = reinterpret_cast<uint8_t*>(out.data());
+        inflater->avail_out = static_cast<uint32_t>(out.size());
+        inflater->crc_flag = ISAL_GZIP;
+        if (isal_inflate_stateless(inflater.get()) != ISAL_DECOMP_OK)
+            throw std::runtime_error("igzip inflate failed");
+        benchmark::DoNotOptimize(out.data());
+    }
+    countBinaryBytes(state);
+}
+#endif
 
 const std::vector<uint32_t>& pixels()
 {
@@ -337,8 +433,15 @@ BENCHMARK(StreamWrite)->Unit(benchmark::kMillisecond);
 BENCHMARK(StreamRead)->Unit(benchmark::kMillisecond);
 BENCHMARK(Compress)->Unit(benchmark::kMillisecond);
 BENCHMARK(RawDeflate)->Unit(benchmark::kMillisecond);
+const bool deflateRegistered = registerDeflate();
 BENCHMARK(Decompress)->Unit(benchmark::kMillisecond);
 BENCHMARK(RawInflate)->Unit(benchmark::kMillisecond);
+#if defined(HRM_WITH_LIBDEFLATE)
+BENCHMARK(RawLibdeflateInflate)->Unit(benchmark::kMillisecond);
+#endif
+#if defined(HRM_WITH_IGZIP)
+BENCHMARK(RawIgzipInflate)->Unit(benchmark::kMillisecond);
+#endif
 BENCHMARK(Base64Encode)->Unit(benchmark::kMillisecond);
 BENCHMARK(Base64Decode)->Unit(benchmark::kMillisecond);
 

@@ -1,5 +1,7 @@
 #include <hrm_api/hrm_api_compression.h>
 
+#include "support/compression_setting.h"
+#include "support/expect_message.h"
 #include "support/size_limit.h"
 
 #include <gtest/gtest.h>
@@ -36,10 +38,44 @@ Bytes wordBytes(size_t size)
     return data;
 }
 
+Bytes bytesOf(const char* text, size_t size)
+{
+    return Bytes(text, text + size);
+}
+
 Bytes compressed(const Bytes& data, int level = -1)
 {
     Bytes out;
     Compressor::compress(out, data.data(), data.size(), level);
+    return out;
+}
+
+Bytes compressed(const Bytes& data, Compression compression)
+{
+    Bytes out;
+    Compressor::compress(out, data.data(), data.size(), compression);
+    return out;
+}
+
+// Inflates a gzip stream with zlib alone, as any reader of the stream would.
+Bytes zlibInflated(const Bytes& gzip)
+{
+    z_stream stream{};
+    EXPECT_EQ(inflateInit2(&stream, 15 + 16), Z_OK);
+    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(gzip.data()));
+    stream.avail_in = static_cast<uInt>(gzip.size());
+    Bytes out;
+    int result = Z_OK;
+    while (result == Z_OK) {
+        char chunk[65536];
+        stream.next_out = reinterpret_cast<Bytef*>(chunk);
+        stream.avail_out = sizeof chunk;
+        result = inflate(&stream, Z_NO_FLUSH);
+        out.insert(out.end(), chunk, reinterpret_cast<char*>(stream.next_out));
+    }
+    EXPECT_EQ(result, Z_STREAM_END);
+    EXPECT_EQ(stream.avail_in, 0u); // one gzip member and nothing after it
+    inflateEnd(&stream);
     return out;
 }
 
@@ -135,6 +171,57 @@ TEST(Compressor, RoundTripsAtEveryKindOfLevelAndSize)
     EXPECT_TRUE(empty.empty());
 }
 
+TEST(Compressor, EveryEngineWritesGzipThatZlibReads)
+{
+    struct Levels
+    {
+        DeflateEngine engine;
+        int standard; // what -1 stands for
+        int highest;
+    };
+    const Bytes inputs[] = {Bytes(), randomBytes(1, 3), randomBytes(300000, 4), wordBytes(1'000'000)};
+    for (const auto [engine, standard, highest] :
+         {Levels{DeflateEngine::zlib, 6, 9}, Levels{DeflateEngine::libdeflate, 6, 12}, Levels{DeflateEngine::igzip, 1, 3}}) {
+        SCOPED_TRACE(testing::Message() << "engine " << int(engine));
+        if (!Compressor::isAvailable(engine)) {
+            test::expectMessage<std::invalid_argument>([e = engine] { compressed(Bytes(), Compression{e, -1}); },
+                                                       "Compressor: deflate engine not available");
+            continue;
+        }
+        for (const int level : {0, 1, highest}) {
+            for (const Bytes& data : inputs) {
+                SCOPED_TRACE(testing::Message() << "level " << level << ", size " << data.size());
+                const Bytes gzip = compressed(data, Compression{engine, level});
+                EXPECT_EQ(zlibInflated(gzip), data);
+                EXPECT_EQ(decompressed(gzip), data);
+            }
+        }
+        const Bytes& words = inputs[3];
+        EXPECT_EQ(compressed(words, Compression{engine, -1}), compressed(words, Compression{engine, standard}));
+        std::string text;
+        Compressor::compress(text, words.data(), words.size(), Compression{engine, 1});
+        EXPECT_EQ(Bytes(text.begin(), text.end()), compressed(words, Compression{engine, 1}));
+        for (const int refused : {-2, highest + 1})
+            EXPECT_EQ(failureOf([&, e = engine] { compressed(words, Compression{e, refused}); }), "deflate init failed");
+    }
+    // The zlib engine is the level-only form, byte for byte.
+    EXPECT_EQ(compressed(inputs[3], Compression{}), compressed(inputs[3], -1));
+}
+
+TEST(Compressor, CompressionIsChosenForTheWholeLibrary)
+{
+    EXPECT_EQ(Compressor::compression(), Compression{});
+    const Compression fast{Compressor::isAvailable(DeflateEngine::libdeflate) ? DeflateEngine::libdeflate
+                                                                               : DeflateEngine::zlib,
+                           1};
+    const test::CompressionSetting setting(fast);
+    EXPECT_EQ(Compressor::compression(), fast);
+    // A setting that compress() would refuse is refused here, and the last one stays.
+    EXPECT_EQ(failureOf([] { Compressor::setCompression(Compression{DeflateEngine::zlib, 10}); }), "deflate init failed");
+    EXPECT_THROW(Compressor::setCompression(Compression{static_cast<DeflateEngine>(7), -1}), std::invalid_argument);
+    EXPECT_EQ(Compressor::compression(), fast);
+}
+
 TEST(Compressor, InflatesForeignZlibStreamsAndLargeRatios)
 {
     const Bytes data = wordBytes(50000);
@@ -202,6 +289,22 @@ TEST(Compressor, TruncatedStreamsGiveAPrefixAndCorruptOnesThrow)
     EXPECT_LT(prefix.size(), data.size());
     EXPECT_TRUE(std::equal(prefix.begin(), prefix.end(), data.begin()));
     EXPECT_TRUE(decompressed(Bytes(gzip.begin(), gzip.begin() + 10)).empty());
+    // All the data with a trailer cut short, or with bytes after the trailer, is all the data.
+    for (size_t missing = 1; missing <= 8; ++missing)
+        EXPECT_EQ(decompressed(Bytes(gzip.begin(), gzip.end() - static_cast<std::ptrdiff_t>(missing))), data);
+    Bytes followed = gzip;
+    followed.insert(followed.end(), {'\x1F', '\x8B', 'x'});
+    EXPECT_EQ(decompressed(followed), data);
+
+    // A header that carries its own CRC is checked (libdeflate would skip it).
+    Bytes headerCrc(gzip.begin(), gzip.begin() + 10);
+    headerCrc[3] |= 0x02;
+    const uLong crc = crc32(0, reinterpret_cast<const Bytef*>(headerCrc.data()), 10);
+    headerCrc.insert(headerCrc.end(), {static_cast<char>(crc & 0xFF), static_cast<char>(crc >> 8 & 0xFF)});
+    headerCrc.insert(headerCrc.end(), gzip.begin() + 10, gzip.end());
+    EXPECT_EQ(decompressed(headerCrc), data);
+    headerCrc[10] ^= 1;
+    EXPECT_EQ(zlibMessage(headerCrc), "header crc mismatch");
 
     const auto corrupted = [&](size_t at, char byte) {
         Bytes bad = gzip;
@@ -224,6 +327,20 @@ TEST(Compressor, TruncatedStreamsGiveAPrefixAndCorruptOnesThrow)
     EXPECT_EQ(out, claims);
     EXPECT_LE(out.capacity(), 16 * stored.size() + 1);
     EXPECT_EQ(zlibMessage(Bytes{'n', 'o', 't', ' ', 'z', 'l', 'i', 'b'}), "incorrect header check");
+
+    // 100 times "a" with the right CRC and size, in a block whose literal/length code is
+    // incomplete (two codes of two bits): zlib refuses it, and so must a faster inflater.
+    Bytes incompleteCode = bytesOf("\x1F\x8B\x08\0\0\0\0\0\0\x03\x05\xC0\x01\x09\0\0\0\x80\xA0\xAD\xFD\x3F\x91", 23);
+    incompleteCode.resize(incompleteCode.size() + 25, 0);
+    const Bytes trailer = bytesOf("\x02\x64\x7A\x70\xAF\x64\0\0\0", 9);
+    incompleteCode.insert(incompleteCode.end(), trailer.begin(), trailer.end());
+    EXPECT_EQ(zlibMessage(incompleteCode), "invalid literal/lengths set");
+    // Code lengths that run past the count the block header gives, and the trailer of nothing:
+    // libdeflate takes it, zlib refuses it.
+    const Bytes overrun = bytesOf("\x1F\x8B\x08\0\0\0\0\0\x04\x03\xED\xD0\x31\x01\0\0\0\xC2\xA0\xF5\x4F\x6D\x0D"
+                                  "\x0F\x88\x38\0\0\0\0\0\0\0\0",
+                                  34);
+    EXPECT_EQ(zlibMessage(overrun), "invalid bit length repeat");
 
     EXPECT_EQ(failureOf([&] { compressed(data, 10); }), "deflate init failed");
 }

@@ -1,7 +1,9 @@
+#include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_exchange_object.h>
 #include <mp/mp_exception.h>
 #include <mp/mp_shared_buffer.h>
 
+#include "support/compression_setting.h"
 #include "support/expect_message.h"
 #include "support/log_capture.h"
 #include "support/size_limit.h"
@@ -133,6 +135,46 @@ TEST(ExchangeObjectWrapper, BinaryObjectsTravelInSharedMemory)
     EXPECT_NE(first, second); // every write makes a new buffer
     EXPECT_TRUE(Buffer::remove(first));
     EXPECT_TRUE(Buffer::remove(second));
+}
+
+TEST(ExchangeObjectWrapper, PayloadsAreCompressedAsTheLibraryIsSet)
+{
+    // The payload a wrapper writes under `compression`, and the object a default reader loads.
+    const auto written = test::filledBinaryObject(true);
+    const auto payloadAndObject = [&](Compression compression) {
+        std::wstring envelope;
+        {
+            const test::CompressionSetting writer(compression);
+            envelope = envelopeOf(written);
+        }
+        const Buffer buffer(sourceOf(envelope), true, Buffer::Open::Existing); // removed on return
+        std::vector<char> payload;
+        buffer.read(payload);
+        return std::pair(payload, readEnvelope(envelope));
+    };
+    const auto recompressed = [](const std::vector<char>& payload, Compression compression) {
+        std::vector<char> raw, again;
+        Compressor::decompress(raw, payload.data(), payload.size());
+        Compressor::compress(again, raw.data(), raw.size(), compression);
+        return again;
+    };
+
+    // By default zlib at its default level, as always; the first setting is the default.
+    std::vector<char> zlibPayload;
+    for (const Compression compression :
+         {Compression{}, Compression{DeflateEngine::libdeflate, 1}, Compression{DeflateEngine::igzip, 1}}) {
+        if (!Compressor::isAvailable(compression.engine))
+            continue;
+        SCOPED_TRACE(testing::Message() << "engine " << int(compression.engine));
+        const auto [payload, read] = payloadAndObject(compression);
+        EXPECT_EQ(payload, recompressed(payload, compression));
+        if (compression == Compression{})
+            zlibPayload = payload;
+        else
+            EXPECT_NE(payload, zlibPayload);
+        ASSERT_TRUE(read && read->isLoaded());
+        EXPECT_EQ(*std::static_pointer_cast<BinaryObject>(read), *written);
+    }
 }
 
 TEST(ExchangeObjectWrapper, DelayedLoading)

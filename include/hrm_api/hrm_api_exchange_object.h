@@ -29,7 +29,7 @@ public:
     virtual std::shared_ptr<IExchangeObject> clone() const = 0;
     // Whether the object travels in shared memory rather than inside its envelope.
     virtual bool binary() const { return false; }
-    // Whether its shared-memory payload is gzip-compressed.
+    // Whether its shared-memory payload is gzip-compressed (as Compressor::compression() says).
     virtual bool compress() const { return false; }
     // Whether load() has filled the object from its source. Objects read inline stay false.
     virtual bool isLoaded() const { return m_loaded; }

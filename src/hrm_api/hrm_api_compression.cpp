@@ -2,6 +2,8 @@
 
 #include <logging/ax_herm_logger.h>
 
+#include "hrm_api/hrm_api_deflate_engines.h"
+
 #define ZLIB_CONST
 #include <zlib.h>
 
@@ -9,6 +11,7 @@
 #include <array>
 #include <atomic>
 #include <limits>
+#include <mutex>
 #include <stdexcept>
 #include <type_traits>
 
@@ -41,6 +44,9 @@ struct Input
 };
 
 std::atomic<size_t> decompressedSizeLimit{Compressor::defaultDecompressedSizeLimit};
+// A mutex rather than an atomic: an atomic of the struct would need libatomic with clang.
+std::mutex compressionMutex;
+Compression compression;
 
 // Points zlib's output at up to `chunk` bytes of `out` after `total`, staying within the
 // vector's capacity while it has any left; a full vector grows by at least `chunk` and at
@@ -139,12 +145,9 @@ private:
     // step; larger ratios grow the output as it comes. 0 for other streams.
     static size_t expectedSize(const char* data, size_t size)
     {
-        constexpr size_t trustedRatio = 16;
         if (size < 18 || static_cast<unsigned char>(data[0]) != 0x1F || static_cast<unsigned char>(data[1]) != 0x8B)
             return 0;
-        const auto* trailer = reinterpret_cast<const unsigned char*>(data + size - 4);
-        const size_t announced = trailer[0] | trailer[1] << 8 | trailer[2] << 16 | size_t(trailer[3]) << 24;
-        return std::min(announced, size * trustedRatio);
+        return std::min(deflate_engines::announcedSize(data, size), size * deflate_engines::trustedRatio);
     }
 
     z_stream m_stream{};
@@ -243,6 +246,24 @@ size_t Compressor::decompressedSizeLimit()
     return hrm::decompressedSizeLimit;
 }
 
+void Compressor::setCompression(Compression compression)
+{
+    deflate_engines::check(compression);
+    const std::lock_guard<std::mutex> lock(compressionMutex);
+    hrm::compression = compression;
+}
+
+Compression Compressor::compression()
+{
+    const std::lock_guard<std::mutex> lock(compressionMutex);
+    return hrm::compression;
+}
+
+bool Compressor::isAvailable(DeflateEngine engine)
+{
+    return deflate_engines::isBuiltIn(engine);
+}
+
 bool Compressor::isCompressed(const char* data, size_t size)
 {
     if (data == nullptr || size < 3)
@@ -268,12 +289,29 @@ void Compressor::compress(std::string& out, const char* data, size_t size, int l
     out.assign(bytes.data(), bytes.size());
 }
 
+void Compressor::compress(std::vector<char>& out, const char* data, size_t size, Compression compression)
+{
+    HRM_TRACE();
+    if (compression.engine == DeflateEngine::zlib)
+        Deflater(compression.level).run(out, data, size);
+    else
+        deflate_engines::compress(compression, out, data, size);
+}
+
+void Compressor::compress(std::string& out, const char* data, size_t size, Compression compression)
+{
+    HRM_TRACE();
+    std::vector<char> bytes;
+    compress(bytes, data, size, compression);
+    out.assign(bytes.data(), bytes.size());
+}
+
 void Compressor::decompress(std::vector<char>& out, const char* data, size_t size, size_t maxSize)
 {
     HRM_TRACE();
     if (size == 0)
         out.clear();
-    else
+    else if (!deflate_engines::inflate(out, data, size, maxSize))
         Inflater().run(out, data, size, maxSize);
 }
 
@@ -281,7 +319,7 @@ void Compressor::decompress(std::string& out, const char* data, size_t size, siz
 {
     HRM_TRACE();
     std::vector<char> bytes;
-    if (size != 0)
+    if (size != 0 && !deflate_engines::inflate(bytes, data, size, maxSize))
         Inflater().run(bytes, data, size, maxSize);
     out.assign(bytes.data(), bytes.size());
 }

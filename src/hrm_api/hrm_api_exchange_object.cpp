@@ -114,8 +114,9 @@ std::vector<std::wstring> ExchangeObjectRegistry::names() const
 
 namespace {
 
-// Puts the binary JSON of `object` (gzip-compressed when the object asks for it) into a new
-// shared-memory buffer, created exclusively under a new name, and returns it open.
+// Puts the binary JSON of `object` (gzip-compressed as Compressor::compression() says, when the
+// object asks for it) into a new shared-memory buffer, created exclusively under a new name, and
+// returns it open.
 mp::SharedBuffer<char> writeToSharedMemory(const IExchangeObject& object, JsonAllocator& allocator)
 {
     JsonValue value;
@@ -124,7 +125,7 @@ mp::SharedBuffer<char> writeToSharedMemory(const IExchangeObject& object, JsonAl
     JsonBinaryIO::encode(value, bytes);
     if (object.compress()) {
         std::vector<char> compressed;
-        Compressor::compress(compressed, bytes.data(), bytes.size(), -1);
+        Compressor::compress(compressed, bytes.data(), bytes.size(), Compressor::compression());
         bytes.swap(compressed);
     }
     mp::SharedBuffer<char> buffer(IExchangeObject::generateUUID(), false, mp::SharedBuffer<char>::Open::Create);
