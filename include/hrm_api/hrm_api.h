@@ -5,6 +5,7 @@
 #include <hrm_api/hrm_api_export.h>
 #include <hrm_api/hrm_api_json.h>
 #include <hrm_api/hrm_api_json_binary.h>
+#include <hrm_api/hrm_api_base64.h>
 #include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_enum.h>
 #include <hrm_api/hrm_api_enums.h>

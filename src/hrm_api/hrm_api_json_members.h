@@ -573,7 +573,7 @@ public:
         return add(key, [&] {
             const size_t bytes = field.size() * sizeof(T);
             auto* text = static_cast<wchar_t*>(m_allocator.Malloc(Base64::encodedSize(bytes) * sizeof(wchar_t)));
-            const size_t length = Base64::encodeInto(text, field.data(), bytes);
+            const size_t length = Base64::encodeWordsInto(text, field.data(), field.size());
             return JsonValue(rapidjson::StringRef(text, static_cast<rapidjson::SizeType>(length)));
         });
     }
