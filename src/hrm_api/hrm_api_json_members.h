@@ -563,7 +563,9 @@ public:
     }
 
     // A packed array is written only when it holds values: Base64 of its little-endian bytes,
-    // encoded straight into the document's memory.
+    // encoded straight into the document's memory. The value refers to that memory as a
+    // constant string, which lives as long as that memory: CopyFrom into another document shares
+    // it rather than copying it.
     template <class T>
     MemberWriter& packed(const wchar_t* key, const std::vector<T>& field)
     {
