@@ -5,6 +5,7 @@
 #include "support/member_suite.h"
 #include "support/read_text.h"
 #include "support/round_trip.h"
+#include "visualization_sample.h"
 
 #include <gtest/gtest.h>
 
@@ -181,251 +182,13 @@ TEST(VisualizationRoots, AlwaysTravelBinaryAndCompressed)
 
 namespace hrm::test {
 
-namespace sample {
-
-std::shared_ptr<ExcVisuFont> font()
-{
-    auto font = std::make_shared<ExcVisuFont>();
-    font->setName(L"Arial \u00e9");
-    font->setTextHeight(3.5);
-    font->setFontPitch(ExcVisuFont::EPitch::Variable);
-    font->setSpacingFactor(1.25);
-    font->setWidthScalingFactor(0.75);
-    return font;
-}
-
-std::shared_ptr<ExcVisuLineAttribute> lineAttribute()
-{
-    auto attribute = std::make_shared<ExcVisuLineAttribute>();
-    attribute->setLineWeight(0.35);
-    attribute->setLineStyle(ExcVisuLineAttribute::ELineStyle::PhantomLine);
-    return attribute;
-}
-
-std::shared_ptr<ExcVisuTexture> texture()
-{
-    auto texture = std::make_shared<ExcVisuTexture>();
-    texture->setName(L"grain");
-    texture->setSwapUV(true);
-    texture->setMethod(ExcVisuTexture::EMethod::Replace);
-    texture->setWrapMode(1, ExcVisuTexture::EWrapMode::Mirror);
-    texture->setMappingMode(ExcVisuTexture::EMappingMode::Cylindrical);
-    texture->setFilter(ExcVisuTexture::EFilter::NearestMipmapLinear);
-    texture->setAlpha(0.5);
-    texture->setFile(L"C:\\textures\\oak.png");
-    texture->setNameUV(L"uv2");
-    texture->setUVTranslation(0, 0.25);
-    texture->setUVScale(1, 2.0);
-    texture->setUVRotation(2, 1.5);
-    texture->setUseMaterial(true);
-    return texture;
-}
-
-std::shared_ptr<ExcVisuMaterial> material()
-{
-    auto material = std::make_shared<ExcVisuMaterial>();
-    material->setName(L"Oak");
-    material->setColor(ExcVisuMaterial::EColorType::Specular, {0.5, 0.25, 0.125, 1.0});
-    material->setColor(ExcVisuMaterial::EColorType::Ambient, {0.1, 0.1, 0.1, 0.5});
-    material->setShininess(32.0);
-    material->setBump(L"bump.png");
-    material->setBumpFactor(0.5);
-    material->setNormalMap(L"normal.png");
-    material->addTexture(ExcVisuMaterial::ETextureType::DiffuseColor, texture());
-    return material;
-}
-
-std::shared_ptr<ExcVisuAttributes> attributes()
-{
-    auto attributes = std::make_shared<ExcVisuAttributes>();
-    attributes->setFont(font());
-    attributes->setColor(ExcColor(1, 2, 3, 4));
-    attributes->setHidden(true);
-    attributes->addMaterial(material());
-    attributes->setLineAttribute(lineAttribute());
-    return attributes;
-}
-
-template <class T>
-void name(T& item, const wchar_t* what)
-{
-    item.setDisplayName(std::wstring(what) + L" \u00fc");
-    item.setId(std::wstring(what) + L"-1");
-    item.setMechanicalId(std::wstring(L"mech-") + what);
-}
-
-std::shared_ptr<ExcVisuView> view()
-{
-    auto view = std::make_shared<ExcVisuView>();
-    name(*view, L"view");
-    view->setHidden(true);
-    view->setOrigin(ExcVector3d(1.0, 2.0, 3.0));
-    view->setDirectionU(ExcVector3d(1.0, 0.0, 0.0));
-    view->setDirectionV(ExcVector3d(0.0, 1.0, 0.0));
-    view->setAnnotationIds({L"a1", L"a2"});
-    return view;
-}
-
-std::shared_ptr<ExcCamera> camera()
-{
-    auto camera = std::make_shared<ExcCamera>();
-    camera->setType(ExcCamera::EType::Perspective);
-    camera->setName(L"Front");
-    camera->setPerspectiveViewAngle(0.785);
-    camera->setOrthographicZoomFactor(2.0);
-    camera->setEye(ExcVector3d(0.0, -100.0, 0.0));
-    camera->setTarget(ExcVector3d(0.5, 0.0, 0.0));
-    camera->setUp(ExcVector3d(0.0, 0.0, 1.0));
-    return camera;
-}
-
-std::shared_ptr<ExcClippingPlane> clippingPlane()
-{
-    auto plane = std::make_shared<ExcClippingPlane>();
-    plane->setOrigin(ExcVector3d(0.0, 0.0, 5.0));
-    plane->setU(ExcVector3d(1.0, 0.0, 0.0));
-    plane->setV(ExcVector3d(0.0, 1.0, 0.0));
-    plane->setCoefficients({0.0, 0.0, 1.0, -5.0});
-    return plane;
-}
-
-std::shared_ptr<ExcVisuCapture> capture()
-{
-    auto capture = std::make_shared<ExcVisuCapture>();
-    name(*capture, L"capture");
-    capture->setHidden(true);
-    capture->setActive(true);
-    capture->setHiddenText(L"hidden");
-    capture->setClippingPlane(clippingPlane());
-    capture->setCamera(camera());
-    capture->setAnnotationIds({L"a1"});
-    capture->setFtaConstructedGeometryIds({L"g1", L"g2"});
-    capture->setBodies({L"b1"});
-    return capture;
-}
-
-std::shared_ptr<ExcVisuFace> face()
-{
-    auto face = std::make_shared<ExcVisuFace>();
-    face->setVertices({0.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0.0f, 0.0f, 1.0f, 0.0f, 1.0f, 1.0f, -0.0f});
-    face->setNormals({0.0f, 0.0f, 1.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0.0f, 1.0f});
-    face->setPolygons({{4, {0, 1, 2}}, {4, {2, 1, 3}}});
-    face->setColor(ExcColor(255, 0, 0));
-    face->setMechanicalId(L"face-7");
-    face->setId(L"7");
-    return face;
-}
-
-std::shared_ptr<ExcVisuEdge> edge()
-{
-    auto edge = std::make_shared<ExcVisuEdge>();
-    edge->setPoints({0.0f, 0.0f, 0.0f, 1.5f, 2.5f, -3.5f});
-    edge->setLineIndices({0, 1});
-    edge->setLineType(ExcVisuEdge::ELineType::LineLoopFilled);
-    edge->setColor(ExcColor(0, 0, 255));
-    edge->setMechanicalId(L"edge-3");
-    return edge;
-}
-
-std::shared_ptr<ExcVisuPoints> points()
-{
-    auto points = std::make_shared<ExcVisuPoints>();
-    points->setPoints({1.0f, 2.0f, 3.0f});
-    points->setPointIndices({0});
-    points->setMarkerStyle(ExcVisuPoints::EMarkerStyle::Integral);
-    points->setColor(ExcColor(9, 9, 9));
-    return points;
-}
-
-std::shared_ptr<ExcVisuText> text()
-{
-    auto text = std::make_shared<ExcVisuText>();
-    text->setText(L"\u00d8 12 H7");
-    text->setAnchorPoint(ExcVector3d(1.0, 2.0, 3.0));
-    text->setDirection(ExcVector3d(1.0, 0.0, 0.0));
-    text->setNormal(ExcVector3d(0.0, 0.0, 1.0));
-    text->setColor(ExcColor(0, 128, 0));
-    text->setFont(font());
-    return text;
-}
-
-std::shared_ptr<ExcVisuMesh> mesh()
-{
-    auto mesh = std::make_shared<ExcVisuMesh>();
-    name(*mesh, L"mesh");
-    mesh->setGeometryType(EVisuGeometryType::Part);
-    mesh->addFaces({face(), face()});
-    mesh->addEdge(edge());
-    return mesh;
-}
-
-std::shared_ptr<ExcVisuWire> wire()
-{
-    auto wire = std::make_shared<ExcVisuWire>();
-    name(*wire, L"wire");
-    wire->setGeometryType(EVisuGeometryType::Construction);
-    wire->addEdges({edge()});
-    return wire;
-}
-
-std::shared_ptr<ExcVisuPointSet> pointSet()
-{
-    auto set = std::make_shared<ExcVisuPointSet>();
-    name(*set, L"points");
-    set->setGeometryType(EVisuGeometryType::FtaConstructed);
-    set->addPoints(points());
-    return set;
-}
-
-std::shared_ptr<ExcVisuPMI> pmi()
-{
-    auto pmi = std::make_shared<ExcVisuPMI>();
-    name(*pmi, L"pmi");
-    pmi->addEdge(edge());
-    pmi->addTexts({text()});
-    return pmi;
-}
-
-std::shared_ptr<ExcVisuNode> node()
-{
-    auto leaf = std::make_shared<ExcVisuNode>();
-    leaf->setLeaf(true);
-    leaf->setType(ExcVisuNode::EType::Mesh);
-    leaf->setMesh(mesh());
-    auto node = std::make_shared<ExcVisuNode>();
-    node->setLeaf(true);
-    node->setType(ExcVisuNode::EType::GeomTolFlatness);
-    node->setGroupName(L"Group");
-    node->setAttributes(attributes());
-    auto transformation = std::make_shared<ExcTransformation>();
-    transformation->translation().set(1.0, 2.0, 3.0);
-    node->setTransformation(transformation);
-    node->setMesh(mesh());
-    node->setWire(wire());
-    node->setPmi(pmi());
-    node->setPointSet(pointSet());
-    node->addChildNode(leaf);
-    return node;
-}
-
-std::shared_ptr<ExcVisualizationData> data()
-{
-    auto data = std::make_shared<ExcVisualizationData>();
-    data->addSceneRootNode(node());
-    data->setUnits(ELengthUnitType::Inch);
-    data->addView(view());
-    data->addCaptures({capture()});
-    return data;
-}
-
-} // namespace sample
 
 #define HRM_VISU_CASE(T, make, ...)                                                      \
     template <>                                                                          \
     struct MemberCase<T> : MemberCaseDefaults                                            \
     {                                                                                    \
         static constexpr const char* wrongKindMessage = #T " object should have a JSON object type."; \
-        static T sample() { return *sample::make(); }                                    \
+        static T sample() { return *samples::full::make(); }                                    \
         static std::vector<std::wstring> keys() { return {__VA_ARGS__}; }              \
         static std::vector<std::wstring> anyKind()                                       \
         {                                                                                \
@@ -459,21 +222,6 @@ HRM_VISU_CASE(ExcVisuNode, node, L"is_leaf", L"type", L"group_name", L"attribute
               L"point_set", L"child_nodes")
 HRM_VISU_CASE(ExcVisualizationData, data, L"scene_root_nodes", L"units", L"views", L"captures")
 
-namespace sample {
-std::shared_ptr<ExcBlockVisualization> block()
-{
-    auto block = std::make_shared<ExcBlockVisualization>();
-    block->setBlockId(18446744073709551615u);
-    block->setVisualizationData(data());
-    return block;
-}
-std::shared_ptr<ExcRootAssemblyVisualization> assembly()
-{
-    auto assembly = std::make_shared<ExcRootAssemblyVisualization>();
-    assembly->setVisualizationData(data());
-    return assembly;
-}
-} // namespace sample
 
 HRM_VISU_CASE(ExcBlockVisualization, block, L"block_id", L"visualization_data")
 HRM_VISU_CASE(ExcRootAssemblyVisualization, assembly, L"visualization_data")
