@@ -84,7 +84,8 @@ size_t encodeBase64(Char* dest, const void* src, size_t bytes)
     return static_cast<size_t>(out - dest);
 }
 
-uint32_t swapBytes(uint32_t word)
+// Used on big-endian hosts only.
+[[maybe_unused]] uint32_t swapBytes(uint32_t word)
 {
     return word >> 24 | (word >> 8 & 0xFF00) | (word << 8 & 0xFF0000) | word << 24;
 }
