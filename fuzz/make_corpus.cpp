@@ -14,6 +14,8 @@
 #include <hrm_api/hrm_api_json_binary.h>
 
 #include <cctype>
+#include "visualization_sample.h"
+
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -188,6 +190,25 @@ std::string envelopeOf(const std::shared_ptr<IExchangeObject>& object)
     return textOf(wrapper);
 }
 
+// The envelope of a binary `object` with its payload after a NUL byte, as the envelope target
+// expects it: <name>_gzip.bin compressed, <name>_raw.bin raw.
+// Saves the envelope of a binary object with its payload, compressed and raw; returns the
+// compressed payload.
+std::vector<char> saveBinary(const std::string& name, const IExchangeObject& object)
+{
+    JsonDocument value;
+    object.writeObject(value, value.GetAllocator());
+    std::vector<char> raw;
+    JsonBinaryIO::encode(value, raw);
+    std::vector<char> gzip;
+    Compressor::compress(gzip, raw.data(), raw.size(), -1);
+    const std::string envelope = "{\"exchange_object_name\":\"" + toNarrow(object.objectName())
+                                 + "\",\"binary\":true,\"exchange_object_data\":\"" + toNarrow(fuzz::payloadBuffer) + "\"}";
+    save("envelope", name + "_gzip.bin", envelope + '\0' + bytesOf(gzip));
+    save("envelope", name + "_raw.bin", envelope + '\0' + bytesOf(raw));
+    return gzip;
+}
+
 // Envelopes of the inline types, and of the binary object with its payload after a NUL byte,
 // compressed and raw, as the envelope target expects them.
 void envelopes()
@@ -222,16 +243,10 @@ void envelopes()
     object.color = {1.0, 0.5, 0.25, 1.0};
     object.vertices = {0.0f, 1.5f, -2.25f};
     object.indices = {0, 1, 2, -1};
-    JsonDocument value;
-    object.writeObject(value, value.GetAllocator());
-    std::vector<char> raw;
-    JsonBinaryIO::encode(value, raw);
-    std::vector<char> gzip;
-    Compressor::compress(gzip, raw.data(), raw.size(), -1);
-    const std::string envelope = "{\"exchange_object_name\":\"fuzz_binary_object\",\"binary\":true,"
-                                 "\"exchange_object_data\":\"" + toNarrow(fuzz::payloadBuffer) + "\"}";
-    save("envelope", "binary_gzip.bin", envelope + '\0' + bytesOf(gzip));
-    save("envelope", "binary_raw.bin", envelope + '\0' + bytesOf(raw));
+    const std::vector<char> gzip = saveBinary("binary", object);
+    // Both visualization roots, with one object of every class of their family.
+    saveBinary("block_visualization", *samples::full::block());
+    saveBinary("root_assembly_visualization", *samples::full::assembly());
 
     // Buffer names a reader must neither load nor remove, each beside a payload that the
     // buffer of the right name holds: capitals, a NUL, a lone surrogate, a path, a device, a

@@ -5,6 +5,7 @@
 #include <hrm_api/hrm_api_export.h>
 #include <hrm_api/hrm_api_json.h>
 #include <hrm_api/hrm_api_json_binary.h>
+#include <hrm_api/hrm_api_base64.h>
 #include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_enum.h>
 #include <hrm_api/hrm_api_enums.h>
@@ -13,6 +14,8 @@
 #include <hrm_api/hrm_api_enums_options.h>
 #include <hrm_api/hrm_api_exchange_common.h>
 #include <hrm_api/hrm_api_exchange_object.h>
+#include <hrm_api/hrm_api_exchange_visualization.h>
+#include <hrm_api/hrm_api_exchange_visualization_attributes.h>
 #include <hrm_api/hrm_api_command_options.h>
 #include <hrm_api/hrm_api_format_options.h>
 #include <hrm_api/hrm_api_format_options_export.h>

@@ -1,7 +1,9 @@
 #pragma once
 
-// gzip compression through zlib or a faster deflate engine, and Base64 text for binary payloads.
+// gzip compression through zlib or a faster deflate engine (Base64 text for binary payloads is in
+// hrm_api_base64.h).
 
+#include <hrm_api/hrm_api_base64.h>
 #include <hrm_api/hrm_api_export.h>
 
 #include <cstddef>
@@ -86,74 +88,6 @@ public:
                            size_t maxSize = decompressedSizeLimit());
     static void decompress(std::string& out, const char* data, size_t size,
                            size_t maxSize = decompressedSizeLimit());
-};
-
-// Base64 with the standard alphabet ("A-Za-z0-9+/"), "=" padding and no line breaks.
-//
-//   std::wstring text = Base64::encode<std::wstring>(pixels);   // std::vector<uint32_t>
-//   std::vector<uint32_t> back;
-//   size_t consumed = Base64::decode(text, back);
-//
-// Decoding never fails: it stops at the first "=" or character outside the alphabet (white
-// space included) and returns the characters consumed; an unfinished group of k characters
-// gives k - 1 bytes. Decoding into 32-bit values drops a trailing partial value. 32-bit
-// values travel in the host's byte order.
-class HRM_API Base64
-{
-public:
-    static size_t encodedSize(size_t bytes) { return (bytes + 2) / 3 * 4; }
-    // The bytes of `chars` characters in whole groups of four.
-    static size_t decodedSize(size_t chars) { return chars / 4 * 3; }
-
-    // Text is std::string or std::wstring; Container holds bytes or 32-bit values.
-    template <typename Text = std::string, typename Container>
-    static Text encode(const Container& data)
-    {
-        const size_t bytes = data.size() * elementSize<Container>();
-        Text text(encodedSize(bytes), typename Text::value_type());
-        text.resize(encodeImpl(&text[0], data.data(), bytes));
-        return text;
-    }
-
-    // Writes the encodedSize(bytes) characters of the `bytes` bytes at `src` to `dest`;
-    // returns that count.
-    static size_t encodeInto(char* dest, const void* src, size_t bytes) { return encodeImpl(dest, src, bytes); }
-    static size_t encodeInto(wchar_t* dest, const void* src, size_t bytes) { return encodeImpl(dest, src, bytes); }
-
-    // Replaces `out` with the data decoded from the `length` characters at `text`; returns
-    // the characters consumed.
-    template <typename Container, typename Char>
-    static size_t decode(const Char* text, size_t length, Container& out)
-    {
-        constexpr size_t size = elementSize<Container>();
-        // An unfinished last group still yields bytes, so size for one more whole group.
-        out.resize((decodedSize(length + 3) + size - 1) / size);
-        const auto [bytes, consumed] = decodeImpl(out.data(), text, length);
-        out.resize(bytes / size);
-        return consumed;
-    }
-
-    template <typename Container, typename Char>
-    static size_t decode(const std::basic_string<Char>& text, Container& out)
-    {
-        return decode(text.data(), text.size(), out);
-    }
-
-private:
-    template <typename Container>
-    static constexpr size_t elementSize()
-    {
-        constexpr size_t size = sizeof(typename Container::value_type);
-        static_assert(size == 1 || size == 4, "Base64 works on containers of bytes or 32-bit values");
-        return size;
-    }
-
-    // Write encodedSize(bytes) characters; return that count.
-    static size_t encodeImpl(char* dest, const void* src, size_t bytes);
-    static size_t encodeImpl(wchar_t* dest, const void* src, size_t bytes);
-    // Return (bytes written, characters consumed).
-    static std::pair<size_t, size_t> decodeImpl(void* dest, const char* src, size_t chars);
-    static std::pair<size_t, size_t> decodeImpl(void* dest, const wchar_t* src, size_t chars);
 };
 
 } // namespace hrm

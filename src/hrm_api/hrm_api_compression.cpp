@@ -8,12 +8,10 @@
 #include <zlib.h>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <limits>
 #include <mutex>
 #include <stdexcept>
-#include <type_traits>
 
 namespace hrm {
 namespace {
@@ -153,87 +151,6 @@ private:
     z_stream m_stream{};
 };
 
-constexpr char alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-constexpr uint8_t notInAlphabet = 0x80;
-
-constexpr std::array<uint8_t, 256> makeDecodeTable()
-{
-    std::array<uint8_t, 256> table{};
-    for (auto& entry : table)
-        entry = notInAlphabet;
-    for (uint8_t i = 0; i < 64; ++i)
-        table[static_cast<unsigned char>(alphabet[i])] = i;
-    return table;
-}
-
-constexpr std::array<uint8_t, 256> decodeTable = makeDecodeTable();
-
-template <typename Char>
-uint32_t sextet(Char ch)
-{
-    const auto code = static_cast<std::make_unsigned_t<Char>>(ch);
-    if constexpr (sizeof(Char) == 1)
-        return decodeTable[code];
-    else
-        return code < 256 ? decodeTable[code] : notInAlphabet;
-}
-
-template <typename Char>
-size_t encodeBase64(Char* dest, const void* src, size_t bytes)
-{
-    const auto* in = static_cast<const unsigned char*>(src);
-    Char* out = dest;
-    size_t i = 0;
-    for (; i + 3 <= bytes; i += 3, out += 4) {
-        const uint32_t group = uint32_t(in[i]) << 16 | uint32_t(in[i + 1]) << 8 | in[i + 2];
-        out[0] = static_cast<Char>(alphabet[group >> 18]);
-        out[1] = static_cast<Char>(alphabet[(group >> 12) & 0x3F]);
-        out[2] = static_cast<Char>(alphabet[(group >> 6) & 0x3F]);
-        out[3] = static_cast<Char>(alphabet[group & 0x3F]);
-    }
-    if (i < bytes) {
-        const bool two = i + 1 < bytes;
-        const uint32_t group = uint32_t(in[i]) << 16 | (two ? uint32_t(in[i + 1]) << 8 : 0);
-        out[0] = static_cast<Char>(alphabet[group >> 18]);
-        out[1] = static_cast<Char>(alphabet[(group >> 12) & 0x3F]);
-        out[2] = static_cast<Char>(two ? alphabet[(group >> 6) & 0x3F] : '=');
-        out[3] = static_cast<Char>('=');
-        out += 4;
-    }
-    return static_cast<size_t>(out - dest);
-}
-
-template <typename Char>
-std::pair<size_t, size_t> decodeBase64(void* dest, const Char* src, size_t chars)
-{
-    auto* out = static_cast<unsigned char*>(dest);
-    size_t i = 0;
-    for (; i + 4 <= chars; i += 4, out += 3) {
-        const uint32_t a = sextet(src[i]), b = sextet(src[i + 1]), c = sextet(src[i + 2]), d = sextet(src[i + 3]);
-        if ((a | b | c | d) & notInAlphabet)
-            break;
-        const uint32_t group = a << 18 | b << 12 | c << 6 | d;
-        out[0] = static_cast<unsigned char>(group >> 16);
-        out[1] = static_cast<unsigned char>(group >> 8);
-        out[2] = static_cast<unsigned char>(group);
-    }
-    // The last, unfinished group: at most three characters before the end or the stop.
-    uint32_t group = 0;
-    size_t collected = 0;
-    for (; i < chars && collected < 3; ++i, ++collected) {
-        const uint32_t value = sextet(src[i]);
-        if (value & notInAlphabet)
-            break;
-        group = group << 6 | value;
-    }
-    if (collected > 1) {
-        group <<= 6 * (4 - collected);
-        for (size_t k = 0; k + 1 < collected; ++k)
-            *out++ = static_cast<unsigned char>(group >> (16 - 8 * k));
-    }
-    return {static_cast<size_t>(out - static_cast<unsigned char*>(dest)), i};
-}
-
 } // namespace
 
 void Compressor::setDecompressedSizeLimit(size_t bytes)
@@ -322,26 +239,6 @@ void Compressor::decompress(std::string& out, const char* data, size_t size, siz
     if (size != 0 && !deflate_engines::inflate(bytes, data, size, maxSize))
         Inflater().run(bytes, data, size, maxSize);
     out.assign(bytes.data(), bytes.size());
-}
-
-size_t Base64::encodeImpl(char* dest, const void* src, size_t bytes)
-{
-    return encodeBase64(dest, src, bytes);
-}
-
-size_t Base64::encodeImpl(wchar_t* dest, const void* src, size_t bytes)
-{
-    return encodeBase64(dest, src, bytes);
-}
-
-std::pair<size_t, size_t> Base64::decodeImpl(void* dest, const char* src, size_t chars)
-{
-    return decodeBase64(dest, src, chars);
-}
-
-std::pair<size_t, size_t> Base64::decodeImpl(void* dest, const wchar_t* src, size_t chars)
-{
-    return decodeBase64(dest, src, chars);
 }
 
 } // namespace hrm

@@ -1,5 +1,7 @@
 #include "hrm_api/hrm_api_exchange_types.h"
 
+#include <hrm_api/hrm_api_exchange_visualization.h>
+
 #include <tuple>
 
 namespace hrm {
@@ -22,6 +24,7 @@ void addLibraryTypes(ExchangeObjectRegistry& registry)
 {
     addPrototypes<ExcMessage, ExcLog, ExcProgress, ExcStageFinished, LegacyComponentInstanceNames, LegacyMaterialMap>(
         registry);
+    addPrototypes<ExcBlockVisualization, ExcRootAssemblyVisualization>(registry);
 }
 
 } // namespace hrm

@@ -563,7 +563,9 @@ public:
     }
 
     // A packed array is written only when it holds values: Base64 of its little-endian bytes,
-    // encoded straight into the document's memory.
+    // encoded straight into the document's memory. The value refers to that memory as a
+    // constant string, which lives as long as that memory: CopyFrom into another document shares
+    // it rather than copying it.
     template <class T>
     MemberWriter& packed(const wchar_t* key, const std::vector<T>& field)
     {
@@ -573,7 +575,7 @@ public:
         return add(key, [&] {
             const size_t bytes = field.size() * sizeof(T);
             auto* text = static_cast<wchar_t*>(m_allocator.Malloc(Base64::encodedSize(bytes) * sizeof(wchar_t)));
-            const size_t length = Base64::encodeInto(text, field.data(), bytes);
+            const size_t length = Base64::encodeWordsInto(text, field.data(), field.size());
             return JsonValue(rapidjson::StringRef(text, static_cast<rapidjson::SizeType>(length)));
         });
     }

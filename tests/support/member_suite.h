@@ -98,13 +98,27 @@ public:
 
     bool binary() const override { return true; }
     bool compress() const override { return true; }
-    void readObject(const JsonValue& value) override { m_document.CopyFrom(value, m_document.GetAllocator()); }
-    void writeObject(JsonValue& value, JsonAllocator& allocator) const override { value.CopyFrom(m_document, allocator); }
+    // Held as binary JSON, a deep copy: packed arrays are written into the writer's allocator as
+    // constant strings, which CopyFrom would share rather than copy.
+    void readObject(const JsonValue& value) override
+    {
+        m_bytes.clear();
+        JsonBinaryIO::encode(value, m_bytes);
+    }
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override
+    {
+        JsonBinaryIO::decode(m_bytes.data(), m_bytes.size(), value, allocator);
+    }
 
-    const JsonDocument& document() const { return m_document; }
+    JsonDocument document() const
+    {
+        JsonDocument document;
+        writeObject(document, document.GetAllocator());
+        return document;
+    }
 
 private:
-    JsonDocument m_document;
+    std::vector<char> m_bytes;
 };
 
 inline StaticExchangeObject<JsonCarrier> jsonCarrierPrototype;
