@@ -43,7 +43,7 @@ TEST(ExcFullSubentPath, TypeTravelsAsItsLetterAndReadsByTheFirstCharacter)
     };
     EXPECT_EQ(typeRead(L"\"face\""), ESubentType::Face);
     EXPECT_EQ(typeRead(L"\"vx\""), ESubentType::Vertex);
-    for (const wchar_t* unchanged : {L"\"Face\"", L"\"\"", L"\"x\"", L"102", L"null"})
+    for (const wchar_t* unchanged : {L"\"Face\"", L"\"\"", L"\"x\"", L"102", L"null", L"\"\\uD800\\uDC66\""})
         EXPECT_EQ(typeRead(unchanged), ESubentType::Edge) << toNarrow(unchanged);
 
     // Non-string references are skipped; the others keep their order.

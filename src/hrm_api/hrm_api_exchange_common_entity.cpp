@@ -32,12 +32,14 @@ void ExcFullSubentPath::subentLetter(Members& m)
         const JsonValue* member = m.find(L"subent_type");
         if (!member || !member->IsString() || member->GetStringLength() == 0)
             return;
-        switch (const auto letter = static_cast<ESubentType>(member->GetString()[0])) {
-        case ESubentType::Body:
-        case ESubentType::Edge:
-        case ESubentType::Face:
-        case ESubentType::Vertex:
-            m_subentType = letter;
+        switch (const wchar_t letter = member->GetString()[0]) {
+        case L'b':
+        case L'e':
+        case L'f':
+        case L'v':
+            m_subentType = static_cast<ESubentType>(letter);
+            break;
+        default:
             break;
         }
     } else {
