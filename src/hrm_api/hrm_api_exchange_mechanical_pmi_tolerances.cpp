@@ -196,22 +196,31 @@ void ExcPMIGDT::Frame::members(Members& m)
 HRM_MEMBER_IO(ExcPMIGDT::Frame, "ExcPMIGDT::Frame")
 HRM_EQUALITY_AS_JSON(ExcPMIGDT::Frame)
 
+namespace {
+
+// Hands out the two fields of a pair.
+template <class T>
+void getPair(const std::array<T, 2>& pair, T& first, T& second)
+{
+    first = pair[0];
+    second = pair[1];
+}
+
+} // namespace
+
 void ExcPMIGDT::rateUnits(double& first, double& second) const
 {
-    first = m_rateUnits[0];
-    second = m_rateUnits[1];
+    getPair(m_rateUnits, first, second);
 }
 
 void ExcPMIGDT::zoneModifiers(EToleranceModifier& first, EToleranceModifier& second) const
 {
-    first = m_zoneModifiers[0];
-    second = m_zoneModifiers[1];
+    getPair(m_zoneModifiers, first, second);
 }
 
 void ExcPMIGDT::compositeRateUnits(double& first, double& second) const
 {
-    first = m_compositeRateUnits[0];
-    second = m_compositeRateUnits[1];
+    getPair(m_compositeRateUnits, first, second);
 }
 
 template <class Members>
