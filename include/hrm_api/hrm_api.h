@@ -4,6 +4,7 @@
 
 #include <hrm_api/hrm_api_export.h>
 #include <hrm_api/hrm_api_version.h>
+#include <hrm_api/hrm_api_text.h>
 #include <hrm_api/hrm_api_json.h>
 #include <hrm_api/hrm_api_json_binary.h>
 #include <hrm_api/hrm_api_base64.h>

@@ -69,6 +69,9 @@ template <class Derived, EOperationType Operation, EFormatType Format>
 class FormatOptionsBase : public FormatOptionsInterface<Operation>
 {
 public:
+    // The format type of every object of the class, for typed look-ups.
+    static constexpr EFormatType s_formatType = Format;
+
     EFormatType formatType() const override { return Format; }
     EOperationType operationType() const override { return Operation; }
 };
@@ -84,7 +87,36 @@ public:
     virtual EOperationType operationType() const = 0;
 };
 
-class HRM_API ImportOptions : public HermetorOptions
+// The options of a command that carries per-format options: an import or an export.
+class HRM_API FormatOptionsHolder : public HermetorOptions
+{
+public:
+    ~FormatOptionsHolder() override;
+
+    // The options stored for `type`, or an empty pointer.
+    virtual std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) = 0;
+    // The options stored for `type`, read-only, or an empty pointer.
+    virtual std::shared_ptr<const IFormatOptions> formatOptions(EFormatType type) const = 0;
+    // Stores `options` under its format type, replacing an earlier one; an empty pointer is ignored.
+    virtual void setFormatOptions(std::shared_ptr<IFormatOptions> options) = 0;
+
+    // The options stored for the format of Options, when they are an Options:
+    // `importOptions.formatOptions<imp::OptionsSTEP>()`. Null when none are stored, or when
+    // those stored are of another class (exp::OptionsSTEP in an import).
+    template <class Options>
+    std::shared_ptr<Options> formatOptions()
+    {
+        return std::dynamic_pointer_cast<Options>(formatOptions(Options::s_formatType));
+    }
+    // The same, read-only.
+    template <class Options>
+    std::shared_ptr<const Options> formatOptions() const
+    {
+        return std::dynamic_pointer_cast<const Options>(formatOptions(Options::s_formatType));
+    }
+};
+
+class HRM_API ImportOptions : public FormatOptionsHolder
 {
 public:
     EOperationType operationType() const override { return EOperationType::Import; }
@@ -99,13 +131,9 @@ public:
     virtual void setTranslateMiscData(bool value) = 0;
     virtual int32_t modelerVersion() const = 0;
     virtual void setModelerVersion(int32_t value) = 0;
-    // The options stored for `type`, or an empty pointer.
-    virtual std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) const = 0;
-    // Stores `options` under its format type, replacing an earlier one; an empty pointer is ignored.
-    virtual void setFormatOptions(std::shared_ptr<IFormatOptions> options) = 0;
 };
 
-class HRM_API ExportOptions : public HermetorOptions
+class HRM_API ExportOptions : public FormatOptionsHolder
 {
 public:
     EOperationType operationType() const override { return EOperationType::Export; }
@@ -116,8 +144,6 @@ public:
     virtual void setFormatVersion(const std::wstring& value) = 0;
     virtual int32_t geometryFlags() const = 0;
     virtual void setGeometryFlags(int32_t value) = 0;
-    virtual std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) const = 0;
-    virtual void setFormatOptions(std::shared_ptr<IFormatOptions> options) = 0;
 };
 
 // Keys: "file", "force_mp_mode", "translate_world_orientation", "translate_misc_data",
@@ -135,7 +161,9 @@ public:
     void setTranslateMiscData(bool value) override { m_translateMiscData = value; }
     int32_t modelerVersion() const override { return m_modelerVersion; }
     void setModelerVersion(int32_t value) override { m_modelerVersion = value; }
-    std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) const override;
+    using FormatOptionsHolder::formatOptions;
+    std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) override;
+    std::shared_ptr<const IFormatOptions> formatOptions(EFormatType type) const override;
     void setFormatOptions(std::shared_ptr<IFormatOptions> options) override;
 
     // Throws std::invalid_argument for a value that is no object ("!object.IsObject()") or
@@ -167,7 +195,9 @@ public:
     void setFormatVersion(const std::wstring& value) override { m_formatVersion = value; }
     int32_t geometryFlags() const override { return m_geometryFlags; }
     void setGeometryFlags(int32_t value) override { m_geometryFlags = value; }
-    std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) const override;
+    using FormatOptionsHolder::formatOptions;
+    std::shared_ptr<IFormatOptions> formatOptions(EFormatType type) override;
+    std::shared_ptr<const IFormatOptions> formatOptions(EFormatType type) const override;
     void setFormatOptions(std::shared_ptr<IFormatOptions> options) override;
 
     // Throws as ImportOptionsImpl::readObject does.

@@ -11,6 +11,8 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace hrm {
@@ -166,6 +168,14 @@ public:
     void set(const std::shared_ptr<IExchangeObject>& object) { m_pObject = object; }
     // The object of the last set() or readObject() (null after reading an unknown type).
     std::shared_ptr<IExchangeObject> get() const { return m_pObject; }
+    // The object as a T: null when there is none or it is of another type,
+    // `if (auto structure = wrapper.get<ExcProductStructure>())`.
+    template <class T>
+    std::shared_ptr<T> get() const
+    {
+        static_assert(std::is_base_of_v<IExchangeObject, T>, "get<T>(): T is an exchange object class");
+        return std::dynamic_pointer_cast<T>(m_pObject);
+    }
     // With delayed loading, reading a binary object only records its source; the caller
     // calls load().
     void setDelayedLoading(bool delayed) { m_delayedLoading = delayed; }
@@ -204,6 +214,17 @@ private:
     bool m_removeAfterLoading = true;
     mutable std::wstring m_createdBuffer;
 };
+
+// The envelope text of `object`, as ExchangeObjectWrapper::writeObject writes it: a binary
+// object is parked in a new shared-memory buffer for the reader, and `createdBuffer`, when
+// given, receives that buffer's name (empty for an inline object), so that a writer whose
+// envelope never reaches its reader can remove it (mp::SharedBuffer<char>::remove).
+HRM_API std::wstring toEnvelope(const IExchangeObject& object, std::wstring* createdBuffer = nullptr);
+
+// Reads an envelope text as ExchangeObjectWrapper::readObject does, with the wrapper's defaults
+// (a binary object is loaded at once and its buffer removed), and returns the wrapper holding
+// the object: `fromEnvelope(text).get<ExcProductStructure>()`.
+HRM_API ExchangeObjectWrapper fromEnvelope(const std::wstring& envelope);
 
 // ---- Status objects: messages, log lines, progress, finished stages, results ---------------
 
@@ -368,7 +389,7 @@ public:
     static constexpr wchar_t s_objectName[] = L"legacy_component_instance_names";
 
     const Map& map() const { return m_map; }
-    void setMap(const Map& map) { m_map = map; }
+    void setMap(Map map) { m_map = std::move(map); }
     // Sets the name of `handle`, replacing an earlier one. Always true.
     bool addInstanceName(const OdDbHandle& handle, const std::wstring& name);
     // Adds the entries of `other` whose handles are not yet present.
@@ -406,7 +427,7 @@ public:
     static constexpr wchar_t s_objectName[] = L"legacy_component_material_map";
 
     const Map& map() const { return m_map; }
-    void setMap(const Map& map) { m_map = map; }
+    void setMap(Map map) { m_map = std::move(map); }
     // Sets the material of `handle`, replacing an earlier one. Always true.
     bool addMaterial(const OdDbHandle& handle, const Material& material);
     // Adds the entries of `other` whose handles are not yet present.

@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace hrm {
 
@@ -206,7 +207,7 @@ class PersistentNameModes
 {
 public:
     const std::set<EPersistentNameProcessingModeType>& persistentNameModes() const { return m_persistentNameModes; }
-    void setPersistentNameModes(const std::set<EPersistentNameProcessingModeType>& modes) { m_persistentNameModes = modes; }
+    void setPersistentNameModes(std::set<EPersistentNameProcessingModeType> modes) { m_persistentNameModes = std::move(modes); }
     void addPersistentNameMode(EPersistentNameProcessingModeType mode) { m_persistentNameModes.insert(mode); }
 
 protected:

@@ -3,18 +3,28 @@
 // The JSON document types of the library, the IJsonObject contract and JSON text I/O.
 
 #include <hrm_api/hrm_api_export.h>
+#include <hrm_api/hrm_api_text.h> // toNarrow, toWide: writeToFile writes narrow text
 
 #include <cwchar>
 #include <iosfwd>
 #include <stdexcept>
 #include <string>
 
-#ifndef RAPIDJSON_HAS_STDSTRING
+// RapidJSON's templates are compiled into the library and into every program that uses it, so
+// both must see the same settings. The hrm_api::hrm_api CMake target defines them for its
+// consumers before any header; a program built otherwise gets them here, or a clear error when
+// RapidJSON came first with other settings.
+#if !defined(RAPIDJSON_HAS_STDSTRING)
 #define RAPIDJSON_HAS_STDSTRING 1
+#elif RAPIDJSON_HAS_STDSTRING != 1
+#error "hrm_api needs RAPIDJSON_HAS_STDSTRING=1 wherever RapidJSON is included: link the hrm_api::hrm_api target, or define it for the whole program"
 #endif
-#if defined(HRM_JSON_CHECKED) && !defined(RAPIDJSON_ASSERT)
-// Checked builds (the test build) turn RapidJSON's assertions into exceptions, so that a
-// Get...() without its Is...() check fails loudly instead of compiling away.
+#if defined(HRM_JSON_CHECKED)
+// The library's test build turns RapidJSON's assertions into exceptions, so that a Get...()
+// without its Is...() check fails a test instead of compiling away. Only the build tree sets it.
+#if defined(RAPIDJSON_VERSION_STRING)
+#error "HRM_JSON_CHECKED: include an hrm_api header before any RapidJSON header, so that RapidJSON sees the throwing assertion"
+#endif
 #define RAPIDJSON_ASSERT(x) \
     ((x) ? (void)0 : throw std::logic_error("RapidJSON assertion failed: " #x))
 #endif
@@ -99,11 +109,5 @@ public:
     static std::wstring toString(const JsonValue& document, bool pretty);
     static void fromString(const std::wstring& text, JsonDocument& document);
 };
-
-// The library's narrow encoding: the active ANSI code page on Windows, UTF-8 elsewhere.
-// Characters the narrow encoding cannot represent become the platform's default character
-// ('?' for UTF-8 output of a lone surrogate or an invalid code point).
-HRM_API std::string toNarrow(const std::wstring& text);
-HRM_API std::wstring toWide(const std::string& text);
 
 } // namespace hrm

@@ -3,6 +3,8 @@
 #include <hrm_api/hrm_api_export.h>
 
 #include <iosfwd>
+#include <string>
+#include <type_traits>
 
 namespace mp {
 
@@ -19,5 +21,21 @@ protected:
     ISerializable(const ISerializable&) = default;
     ISerializable& operator=(const ISerializable&) = default;
 };
+
+// The text of `document`, as its writeObject writes it.
+HRM_API std::wstring toText(const ISerializable& document);
+
+// Fills `document` from `text` with its readObject (which throws on a malformed document).
+HRM_API void fromText(const std::wstring& text, ISerializable& document);
+
+// A new Document read from `text`: `auto command = mp::fromText<hrm::Command>(text)`.
+template <class Document>
+Document fromText(const std::wstring& text)
+{
+    static_assert(std::is_base_of_v<ISerializable, Document>, "fromText<Document>(): Document is an ISerializable");
+    Document document;
+    fromText(text, document);
+    return document;
+}
 
 } // namespace mp
