@@ -1,6 +1,7 @@
 #pragma once
 
-// Conversions between the library's wide text and its narrow encoding.
+/// @file
+/// Conversions between the library's wide text and its narrow encoding.
 
 #include <hrm_api/hrm_api_export.h>
 
@@ -8,12 +9,12 @@
 
 namespace hrm {
 
-// Converts wide text to the library's narrow encoding: the active ANSI code page on Windows,
-// UTF-8 elsewhere. Characters the narrow encoding cannot represent become the platform's
-// default character ('?' for UTF-8 output of a lone surrogate or an invalid code point).
+/// Converts wide text to the library's narrow encoding: the active ANSI code page on Windows,
+/// UTF-8 elsewhere. Characters the narrow encoding cannot represent become the platform's
+/// default character ('?' for UTF-8 output of a lone surrogate or an invalid code point).
 HRM_API std::string toNarrow(const std::wstring& text);
-// Converts text in the library's narrow encoding to wide text. Bytes that are not valid UTF-8
-// become U+FFFD (Linux); Windows converts as MultiByteToWideChar does.
+/// Converts text in the library's narrow encoding to wide text. Bytes that are not valid UTF-8
+/// become U+FFFD (Linux); Windows converts as MultiByteToWideChar does.
 HRM_API std::wstring toWide(const std::string& text);
 
 } // namespace hrm
