@@ -17,4 +17,11 @@ HRM_API std::string toNarrow(const std::wstring& text);
 /// become U+FFFD (Linux); Windows converts as MultiByteToWideChar does.
 HRM_API std::wstring toWide(const std::string& text);
 
+/// Converts wide text to UTF-8 on every platform, for text that leaves the process as bytes
+/// (files, standard streams, glTF names). What UTF-8 cannot hold (a lone surrogate) becomes a
+/// replacement character ('?', or U+FFFD on Windows).
+HRM_API std::string toUtf8(const std::wstring& text);
+/// Converts UTF-8 to wide text on every platform; each invalid byte becomes U+FFFD.
+HRM_API std::wstring fromUtf8(const std::string& text);
+
 } // namespace hrm
