@@ -23,7 +23,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,12 +45,15 @@ inline ExcTransformation placement(double degrees, double x, double y, double z)
 // A GUID-like identifier made from a number: 8-4-4-4-12 lowercase hexadecimal digits.
 inline std::wstring sampleGuid(uint64_t number)
 {
-    const uint64_t mixed = number * 0x9E3779B97F4A7C15ull;
-    char text[40];
-    std::snprintf(text, sizeof text, "%08x-%04x-4%03x-8%03x-%012llx", static_cast<unsigned>(mixed >> 32),
-                  static_cast<unsigned>(mixed >> 16) & 0xFFFFu, static_cast<unsigned>(number >> 12) & 0xFFFu,
-                  static_cast<unsigned>(number) & 0xFFFu, static_cast<unsigned long long>(number & 0xFFFFFFFFFFFFull));
-    return std::wstring(text, text + 36);
+    const uint64_t high = number * 0x9E3779B97F4A7C15ull, low = number ^ 0x5DEECE66Dull;
+    std::wstring guid;
+    for (int digit = 0; digit < 32; ++digit) {
+        if (digit == 8 || digit == 12 || digit == 16 || digit == 20)
+            guid += L'-';
+        const uint64_t word = digit < 16 ? high : low;
+        guid += L"0123456789abcdef"[(word >> (4 * (15 - digit % 16))) & 0xF];
+    }
+    return guid;
 }
 
 // The properties a CAD system attaches to a reference: where it comes from and its revision.

@@ -39,12 +39,6 @@ TEST(ExcProductStructure, DefaultsWriteEveryKey)
     EXPECT_EQ(toText(ExcProductStructure()),
               L"{\"product_name\":\"\",\"product_configuration_name\":\"\",\"misc_data\":[],\"units\":\"unknown\","
               L"\"world_orientation\":\"unknown\",\"blocks\":[],\"root_block_references\":[]}");
-    EXPECT_EQ(toText(ExcBlockReference()),
-              L"{\"guid\":\"\",\"persistent_id\":\"\",\"persistent_name\":\"\",\"block_id\":0,\"name\":\"\",\"hidden\":false,"
-              L"\"suppressed\":false,\"configuration_name\":\"\",\"transformation\":{\"affine\":[[1.0,0.0,0.0],[0.0,1.0,"
-              L"0.0],[0.0,0.0,1.0]],\"translation\":[0.0,0.0,0.0]},\"color\":null,\"misc_data\":[]}");
-    EXPECT_EQ(toText(ExcBlock()), L"{\"id\":0,\"name\":\"\",\"storage_name\":\"\",\"world_orientation\":\"unknown\","
-                                  L"\"misc_data\":[],\"is_part\":false,\"block_references\":[]}");
 
     // Only JSON booleans and unsigned integers are taken.
     ExcBlockReference reference;
