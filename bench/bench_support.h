@@ -28,6 +28,7 @@ inline std::vector<char> rawDeflate(const std::vector<char>& bytes)
     stream.avail_out = static_cast<uInt>(out.size());
     if (deflate(&stream, Z_FINISH) != Z_STREAM_END)
         throw std::runtime_error("deflate failed");
+    out.resize(stream.total_out);
     deflateEnd(&stream);
     return out;
 }
