@@ -7,19 +7,21 @@
 
 namespace {
 
-TEST(TwentyLines, TheHostReceivesTheMeshTheTranslatorMade)
+TEST(TwentyLines, TheHostReceivesTheStructureTheTranslatorMade)
 {
-    const std::vector<float> vertices{0.f, 0.f, 0.f, 1.f, 0.f, 0.f, 0.f, 1.f, 0.f};
-    const auto block = receive(translate(importRequest(L"bracket.stp"), vertices));
-    ASSERT_TRUE(block);
-    const auto& face = block->visualizationData()->sceneRootNodes().at(0)->mesh()->faces().at(0);
-    EXPECT_EQ(face->vertices(), vertices);
-    EXPECT_FALSE(mp::SharedBuffer<char>::remove(block->source())); // removed once loaded
+    const auto structure = receive(translate(importRequest(L"bracket.stp")));
+    ASSERT_TRUE(structure);
+    EXPECT_TRUE(structure->isLoaded());
+    ASSERT_TRUE(structure->getBlockById(1));
+    EXPECT_EQ(structure->getBlockById(1)->name(), L"bracket.stp");
+    ASSERT_EQ(structure->rootBlockReferences().size(), 1u);
+    EXPECT_EQ(structure->rootBlockReferences()[0]->blockId(), 1u);
+    EXPECT_FALSE(mp::SharedBuffer<char>::remove(structure->source())); // removed once loaded
 
-    // Without STEP options the translator answers with a message, which is no block.
+    // Without STEP options the translator answers with a message, which is no structure.
     hrm::Command command = mp::fromText<hrm::Command>(importRequest(L"bracket.stp"));
     command.setImportOptions(hrm::Command::newImportOptions());
-    EXPECT_FALSE(receive(translate(mp::toText(command), vertices)));
+    EXPECT_FALSE(receive(translate(mp::toText(command))));
 }
 
 } // namespace

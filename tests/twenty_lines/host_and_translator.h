@@ -12,29 +12,28 @@ std::wstring importRequest(const std::wstring& file)
     return mp::toText(command);
 }
 
-// Translator: reads the command and answers with the face it tessellated (moved in, not
-// copied), as an envelope text; the object itself waits in shared memory.
-std::wstring translate(const std::wstring& request, std::vector<float> vertices)
+// Translator: reads the command and answers with the model's product structure, as an
+// envelope text; the structure itself waits in shared memory.
+std::wstring translate(const std::wstring& request)
 {
     const auto command = mp::fromText<hrm::Command>(request);
     const auto step = command.importOptions()->formatOptions<hrm::imp::OptionsSTEP>();
-    if (!step || !step->importVisualization())
-        return hrm::toEnvelope(hrm::ExcMessage(L"nothing to show"));
-    auto face = std::make_shared<hrm::ExcVisuFace>();
-    face->setVertices(std::move(vertices));
-    auto mesh = std::make_shared<hrm::ExcVisuMesh>();
-    mesh->addFace(face);
-    auto node = std::make_shared<hrm::ExcVisuNode>();
-    node->setMesh(mesh);
-    auto picture = std::make_shared<hrm::ExcVisualizationData>();
-    picture->addSceneRootNode(node);
-    hrm::ExcBlockVisualization block;
-    block.setVisualizationData(picture);
-    return hrm::toEnvelope(block);
+    if (!step)
+        return hrm::toEnvelope(hrm::ExcMessage(L"STEP options missing"));
+    auto part = std::make_shared<hrm::ExcBlock>();
+    part->setId(1);
+    part->setName(command.importOptions()->file());
+    part->setPart(true);
+    auto instance = std::make_shared<hrm::ExcBlockReference>();
+    instance->setBlockId(part->id());
+    hrm::ExcProductStructure structure;
+    structure.addBlock(part);
+    structure.addRootBlockReference(instance);
+    return hrm::toEnvelope(structure);
 }
 
-// Host: the object out of the envelope, loaded; null for any other type (a message).
-std::shared_ptr<hrm::ExcBlockVisualization> receive(const std::wstring& envelope)
+// Host: the structure out of the envelope, loaded; null for any other type (a message).
+std::shared_ptr<hrm::ExcProductStructure> receive(const std::wstring& envelope)
 {
-    return hrm::fromEnvelope(envelope).get<hrm::ExcBlockVisualization>();
+    return hrm::fromEnvelope(envelope).get<hrm::ExcProductStructure>();
 }
