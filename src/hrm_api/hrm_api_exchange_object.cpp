@@ -14,6 +14,7 @@
 #include <boost/uuid/uuid_io.hpp>
 
 #include <map>
+#include <sstream>
 #include <stdexcept>
 #include <vector>
 
@@ -138,25 +139,38 @@ mp::SharedBuffer<char> writeToSharedMemory(const IExchangeObject& object, JsonAl
     return buffer;
 }
 
-// Whether `name` has the form of the buffer names writers make: a canonical UUID, 36
-// characters of lowercase hexadecimal digits in 8-4-4-4-12 groups. Such a name means the same
-// object on every platform (Windows would take "ABC" and "abc" for one).
-bool isBufferName(const std::wstring& name)
-{
-    if (name.size() != 36)
-        return false;
-    for (size_t i = 0; i < name.size(); ++i) {
-        const wchar_t ch = name[i];
-        const bool hyphen = i == 8 || i == 13 || i == 18 || i == 23;
-        if (hyphen ? ch != L'-' : !((ch >= L'0' && ch <= L'9') || (ch >= L'a' && ch <= L'f')))
-            return false;
-    }
-    return true;
-}
-
 void failedWrite()
 {
     throw std::runtime_error("Cannot write object into json document");
+}
+
+// Writes the envelope of `object` and returns the name of the shared-memory buffer it created
+// for a binary object (empty for an inline one). A buffer whose envelope could not be written
+// is removed again.
+std::wstring writeEnvelope(const IExchangeObject& object, std::wostream& out)
+{
+    if (!out)
+        failedWrite(); // before a buffer that nobody would learn of is made
+
+    JsonDocument envelope(rapidjson::kObjectType);
+    MemberWriter members(envelope, envelope.GetAllocator());
+    members.string(L"exchange_object_name", object.objectName());
+    if (!object.binary()) {
+        members.object(L"exchange_object_data", object);
+        if (!JsonTextIO::write(out, envelope, false))
+            failedWrite();
+        return {};
+    }
+    mp::SharedBuffer<char> buffer = writeToSharedMemory(object, envelope.GetAllocator());
+    members.boolean(L"binary", true).string(L"exchange_object_data", buffer.name());
+    try {
+        if (!JsonTextIO::write(out, envelope, false))
+            failedWrite();
+    } catch (...) {
+        buffer.removeOwned(); // the reader will never learn of it
+        throw;
+    }
+    return buffer.name();
 }
 
 } // namespace
@@ -167,28 +181,7 @@ void ExchangeObjectWrapper::writeObject(std::wostream& out) const
     m_createdBuffer.clear();
     if (!m_pObject)
         throw std::invalid_argument("ExchangeObjectWrapper::writeObject > m_pObject == nullptr");
-    if (!out)
-        failedWrite(); // before a buffer that nobody would learn of is made
-
-    JsonDocument envelope(rapidjson::kObjectType);
-    MemberWriter members(envelope, envelope.GetAllocator());
-    members.string(L"exchange_object_name", m_pObject->objectName());
-    if (!m_pObject->binary()) {
-        members.object(L"exchange_object_data", *m_pObject);
-        if (!JsonTextIO::write(out, envelope, false))
-            failedWrite();
-        return;
-    }
-    mp::SharedBuffer<char> buffer = writeToSharedMemory(*m_pObject, envelope.GetAllocator());
-    members.boolean(L"binary", true).string(L"exchange_object_data", buffer.name());
-    try {
-        if (!JsonTextIO::write(out, envelope, false))
-            failedWrite();
-    } catch (...) {
-        buffer.removeOwned(); // the reader will never learn of it
-        throw;
-    }
-    m_createdBuffer = buffer.name();
+    m_createdBuffer = writeEnvelope(*m_pObject, out);
 }
 
 void ExchangeObjectWrapper::readObject(std::wistream& in)
@@ -234,6 +227,21 @@ void ExchangeObjectWrapper::readObject(std::wistream& in)
         m_pObject->load();
 }
 
+// Such a name means the same object on every platform (Windows would take "ABC" and "abc" for
+// one).
+bool ExchangeObjectWrapper::isBufferName(const std::wstring& name)
+{
+    if (name.size() != 36)
+        return false;
+    for (size_t i = 0; i < name.size(); ++i) {
+        const wchar_t ch = name[i];
+        const bool hyphen = i == 8 || i == 13 || i == 18 || i == 23;
+        if (hyphen ? ch != L'-' : !((ch >= L'0' && ch <= L'9') || (ch >= L'a' && ch <= L'f')))
+            return false;
+    }
+    return true;
+}
+
 // Removes an announced buffer that this reader will not load, if removal is on and the buffer
 // is this user's own.
 void ExchangeObjectWrapper::discard(const std::wstring& buffer) const
@@ -245,6 +253,27 @@ void ExchangeObjectWrapper::discard(const std::wstring& buffer) const
     } catch (const mp::SharedMemoryException&) {
         // gone already, or not ours to open
     }
+}
+
+// ---- The envelope in one call ----------------------------------------------------------------
+
+std::wstring toEnvelope(const IExchangeObject& object, std::wstring* createdBuffer)
+{
+    HRM_TRACE();
+    std::wostringstream out;
+    const std::wstring created = writeEnvelope(object, out);
+    if (createdBuffer)
+        *createdBuffer = created;
+    return out.str();
+}
+
+ExchangeObjectWrapper fromEnvelope(const std::wstring& envelope)
+{
+    HRM_TRACE();
+    ExchangeObjectWrapper wrapper;
+    std::wistringstream in(envelope);
+    wrapper.readObject(in);
+    return wrapper;
 }
 
 // ---- Status objects -----------------------------------------------------------------------
