@@ -14,6 +14,7 @@
 #include <hrm_api/hrm_api_json_binary.h>
 
 #include <cctype>
+#include "pmi_sample.h"
 #include "structure_sample.h"
 #include "visualization_sample.h"
 
@@ -325,6 +326,21 @@ void results()
     save("result", "error.json", textOf(result));
 }
 
+// PMI data as JSON text: a whole model, one set, and an empty list.
+void pmiData()
+{
+    const auto text = [](const IJsonObject& object) {
+        JsonDocument document;
+        object.writeObject(document, document.GetAllocator());
+        return toNarrow(JsonTextIO::toString(document, true));
+    };
+    save("pmi_data", "model.json", text(*samples::pmi::data()));
+    ExcPMIData one;
+    one.addAnnotationSet(samples::pmi::annotationSet());
+    save("pmi_data", "one_set.json", text(one));
+    save("pmi_data", "empty.json", text(ExcPMIData()));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -341,5 +357,6 @@ int main(int argc, char** argv)
     envelopes();
     results();
     gltf();
+    pmiData();
     return 0;
 }
