@@ -6,6 +6,7 @@
 #include <mp/mp_exception.h>
 #include <mp/mp_shared_buffer.h>
 
+#include "hrm_api/hrm_api_buffer_name.h"
 #include "hrm_api/hrm_api_enum_table.h"
 #include "hrm_api/hrm_api_exchange_types.h"
 #include "hrm_api/hrm_api_json_members.h"
@@ -136,22 +137,6 @@ mp::SharedBuffer<char> writeToSharedMemory(const IExchangeObject& object, JsonAl
         throw;
     }
     return buffer;
-}
-
-// Whether `name` has the form of the buffer names writers make: a canonical UUID, 36
-// characters of lowercase hexadecimal digits in 8-4-4-4-12 groups. Such a name means the same
-// object on every platform (Windows would take "ABC" and "abc" for one).
-bool isBufferName(const std::wstring& name)
-{
-    if (name.size() != 36)
-        return false;
-    for (size_t i = 0; i < name.size(); ++i) {
-        const wchar_t ch = name[i];
-        const bool hyphen = i == 8 || i == 13 || i == 18 || i == 23;
-        if (hyphen ? ch != L'-' : !((ch >= L'0' && ch <= L'9') || (ch >= L'a' && ch <= L'f')))
-            return false;
-    }
-    return true;
 }
 
 void failedWrite()
