@@ -14,6 +14,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <limits>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -295,10 +297,11 @@ TEST(ExcBlockGeometry, ModelerFailuresAreLoggedNotThrown)
                                                       "Failed to get geometry from shared memory buffer: unexpected end of saved data",
                                                       "Failed to get geometry from shared memory buffer: data is not a saved entity list"}));
 
-    if (sizeof(long) > 4) { // an id beyond the file format's 32 bits fails the save
+    const long huge = std::numeric_limits<long>::max();
+    if (huge > std::numeric_limits<int32_t>::max()) { // an id beyond the file format's 32 bits fails the save
         log.clear();
         test::OwnedEntities sent;
-        test::addTaggedBodies(sent.list, {long(1) << 40});
+        test::addTaggedBodies(sent.list, {huge});
         EXPECT_FALSE(geometry.setGeometry(sent.list, true));
         EXPECT_EQ(log.messages(ax_herm::Error),
                   Messages{"Failed to write geometry into shared ACIS buffer: value out of range for saved data"});
