@@ -27,24 +27,34 @@ public:
 
     // The type number the class was registered under.
     static int staticType();
+    // The type name saved in files.
     const char* type_name() const override;
+    // The type number at `level` of the class hierarchy (the modeler's convention).
     int identity(int level = 0) const override;
+    // The size of the attribute in bytes.
     int size() const override;
+    // Whether a deep copy may copy it (as ATTRIB says).
     logical is_deepcopyable() const override;
+    // Writes what the attribute holds, for debugging.
     void debug_ent(FILE* file) const override;
+    // Detaches the attribute from its owner and deletes it.
     void lose() override;
 
-    // Methods added to the class at run time; a method it was not given goes to ATTRIB.
+    // Adds a method to the class at run time.
     static logical add_method(const METHOD_ID& id, MethodFunction method);
+    // Calls a method added to the class; a method it was not given goes to ATTRIB.
     logical call_method(const METHOD_ID& id, const METHOD_ARGS& arguments) override;
 
+    // Writes the attribute's record (type id, ATTRIB's data, its own).
     void save() const override;
+    // A new attribute of the class with the same data, not yet attached.
     ENTITY* make_copy() const override;
     // Reads the data save() wrote (after the type id).
     void restore_common();
 
 protected:
     ~ATTRIB_HERMETOR() override = default;
+    // Copies ATTRIB's data (the owner-change actions).
     void copy_common(const ATTRIB_HERMETOR* from);
 };
 
@@ -63,24 +73,34 @@ public:
     // its geometry is reversed, replaced, warped or changed locally.
     ATTRIB_HERMETOR_ID(ENTITY* owner, long id);
 
+    // The identity.
     long id() const { return m_id; }
 
     // The type number the class was registered under.
     static int staticType();
+    // The type name saved in files.
     const char* type_name() const override;
+    // The type number at `level` of the class hierarchy (the modeler's convention).
     int identity(int level = 0) const override;
+    // The size of the attribute in bytes.
     int size() const override;
+    // Whether a deep copy may copy it (as ATTRIB says).
     logical is_deepcopyable() const override;
+    // Writes what the attribute holds, for debugging.
     void debug_ent(FILE* file) const override;
+    // Detaches the attribute from its owner and deletes it.
     void lose() override;
 
+    // Writes the attribute's record (type id, ATTRIB's data, its own).
     void save() const override;
+    // A new attribute of the class with the same data, not yet attached.
     ENTITY* make_copy() const override;
     // Reads the data save() wrote (after the type id): ATTRIB's, then the id.
     void restore_common();
 
 protected:
     ~ATTRIB_HERMETOR_ID() override = default;
+    // Copies the base's data and the id.
     void copy_common(const ATTRIB_HERMETOR_ID* from);
 
 private:

@@ -32,7 +32,9 @@ namespace hrm {
 class HRM_API ExcSharedAcisBuffer : public modeler::BinaryFile
 {
 public:
+    // A buffer for the named object with an empty stream; nothing is opened yet.
     ExcSharedAcisBuffer(const std::wstring& name, bool removeOnDestroy);
+    // Removes the object when asked to (removeOnDestroy).
     ~ExcSharedAcisBuffer() override;
     ExcSharedAcisBuffer(const ExcSharedAcisBuffer&) = delete;
     ExcSharedAcisBuffer& operator=(const ExcSharedAcisBuffer&) = delete;
@@ -51,9 +53,11 @@ public:
     const std::wstring& name() const { return m_name; }
     // Whether the destructor removes the shared-memory object.
     bool removeOnDestroy() const { return m_removeOnDestroy; }
+    // Sets whether the destructor removes the shared-memory object.
     void setRemoveOnDestroy(bool remove) { m_removeOnDestroy = remove; }
 
-    // The stream primitives. The position is where the next read or write happens.
+    // The stream primitives follow; the position is where the next read or write happens.
+
     // The current position.
     modeler::FilePosition set_mark() override;
     // Moves to `position` (kept within the staged bytes) and answers the new position.
@@ -89,7 +93,9 @@ class HRM_API ExcBlockGeometry : public ExchangeObjectType<ExcBlockGeometry, IEx
 public:
     static constexpr wchar_t s_objectName[] = L"exc_block_geometry";
 
+    // The id of the block (ExcBlock) whose geometry this is.
     uint64_t blockId() const { return m_blockId; }
+    // Sets the id of the block.
     void setBlockId(uint64_t id) { m_blockId = id; }
 
     // Makes this side the owner of the geometry, or not: the buffers this object makes from now

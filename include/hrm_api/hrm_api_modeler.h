@@ -53,7 +53,9 @@ using ::logical;
 
 #else
 
+// A position in a binary file.
 using FilePosition = int64_t;
+// The modeler's truth value.
 using logical = int;
 
 // What the shared ACIS buffer offers when there is no modeler: the four stream primitives of
@@ -63,11 +65,15 @@ class HRM_API BinaryFile
 public:
     virtual ~BinaryFile();
 
+    // The current position.
     virtual FilePosition set_mark() = 0;
+    // Moves to a position and answers it.
     virtual FilePosition goto_mark(FilePosition position) = 0;
 
 protected:
+    // Reads up to `length` bytes and answers how many it read.
     virtual size_t read(void* buffer, size_t length, logical swap) = 0;
+    // Writes `length` bytes.
     virtual void write(const void* data, size_t length, logical swap) = 0;
 };
 
