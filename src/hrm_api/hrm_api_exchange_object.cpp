@@ -219,6 +219,21 @@ void ExchangeObjectWrapper::readObject(std::wistream& in)
         m_pObject->load();
 }
 
+// Such a name means the same object on every platform (Windows would take "ABC" and "abc" for
+// one).
+bool ExchangeObjectWrapper::isBufferName(const std::wstring& name)
+{
+    if (name.size() != 36)
+        return false;
+    for (size_t i = 0; i < name.size(); ++i) {
+        const wchar_t ch = name[i];
+        const bool hyphen = i == 8 || i == 13 || i == 18 || i == 23;
+        if (hyphen ? ch != L'-' : !((ch >= L'0' && ch <= L'9') || (ch >= L'a' && ch <= L'f')))
+            return false;
+    }
+    return true;
+}
+
 // Removes an announced buffer that this reader will not load, if removal is on and the buffer
 // is this user's own.
 void ExchangeObjectWrapper::discard(const std::wstring& buffer) const
