@@ -1,16 +1,17 @@
 #pragma once
 
-// The one header through which hrm_api sees the solid modeler; no other file includes the
-// modeler's headers. The build chooses the modeler (HRM_MODELER in CMake), and the library's
-// target hands the choice to every consumer:
-//
-//   HRM_MODELER_ACIS     the modeler's SDK
-//   HRM_MODELER_STANDIN  the stand-in the tests build, with the same names
-//   neither              no modeler: HRM_HAS_MODELER is 0, and the members that take modeler
-//                        types are left out
-//
-// hrm::modeler names the base of the shared ACIS buffer and the types of its stream
-// primitives in every case (a small base of the library's own when there is no modeler).
+/// @file
+/// The one header through which hrm_api sees the solid modeler; no other file includes the
+/// modeler's headers. The build chooses the modeler (HRM_MODELER in CMake), and the library's
+/// target hands the choice to every consumer:
+///
+///   HRM_MODELER_ACIS     the modeler's SDK
+///   HRM_MODELER_STANDIN  the stand-in the tests build, with the same names
+///   neither              no modeler: HRM_HAS_MODELER is 0, and the members that take modeler
+///                        types are left out
+///
+/// hrm::modeler names the base of the shared ACIS buffer and the types of its stream
+/// primitives in every case (a small base of the library's own when there is no modeler).
 
 #include <hrm_api/hrm_api_export.h>
 
@@ -29,16 +30,19 @@
 #include <lists.hxx>    // ENTITY_LIST
 #include <savres.hxx>   // write_id, write_long, read_long
 
+/// 1 when the library is built with a modeler (its geometry members are there), else 0.
 #define HRM_HAS_MODELER 1
 
 #elif defined(HRM_MODELER_STANDIN)
 
 #include <modeler_standin.hxx>
 
+/// 1 when the library is built with a modeler (its geometry members are there), else 0.
 #define HRM_HAS_MODELER 1
 
 #else
 
+/// 1 when the library is built with a modeler (its geometry members are there), else 0.
 #define HRM_HAS_MODELER 0
 
 #endif
@@ -53,27 +57,27 @@ using ::logical;
 
 #else
 
-// A position in a binary file.
+/// A position in a binary file.
 using FilePosition = int64_t;
-// The modeler's truth value.
+/// The modeler's truth value.
 using logical = int;
 
-// What the shared ACIS buffer offers when there is no modeler: the four stream primitives of
-// the modeler's binary file interface.
+/// What the shared ACIS buffer offers when there is no modeler: the four stream primitives of
+/// the modeler's binary file interface.
 class HRM_API BinaryFile
 {
 public:
     virtual ~BinaryFile();
 
-    // The current position.
+    /// The current position.
     virtual FilePosition set_mark() = 0;
-    // Moves to a position and answers it.
+    /// Moves to a position and answers it.
     virtual FilePosition goto_mark(FilePosition position) = 0;
 
 protected:
-    // Reads up to `length` bytes and answers how many it read.
+    /// Reads up to `length` bytes and answers how many it read.
     virtual size_t read(void* buffer, size_t length, logical swap) = 0;
-    // Writes `length` bytes.
+    /// Writes `length` bytes.
     virtual void write(const void* data, size_t length, logical swap) = 0;
 };
 
