@@ -14,8 +14,9 @@
 
 #include <cstdio>
 
-/// Levels of the two classes in the modeler's class hierarchy.
+/// The level of ATTRIB_HERMETOR in the modeler's class hierarchy.
 const int ATTRIB_HERMETOR_LEVEL = ATTRIB_LEVEL + 1;
+/// The level of ATTRIB_HERMETOR_ID in the modeler's class hierarchy.
 const int ATTRIB_HERMETOR_ID_LEVEL = ATTRIB_HERMETOR_LEVEL + 1;
 
 /// The library's organisation attribute: saved as "Ardenix_Hermetor_Attribute", with no data of
