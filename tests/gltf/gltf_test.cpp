@@ -8,6 +8,8 @@
 #if __has_include(<hrm_api/hrm_api_exchange_structure.h>)
 #include <hrm_api/hrm_api_exchange_structure.h>
 #define HRM_TEST_STRUCTURE 1
+#else
+#define HRM_TEST_STRUCTURE 0
 #endif
 
 #include <gtest/gtest.h>
@@ -279,7 +281,7 @@ TEST(GltfExport, BlockReferencesPlaceSharedMeshes)
     assembly->addBlockReference(suppressed);
     assembly->addBlockReference(referenceTo(2, 1000)); // a cycle
     auto structure = std::make_shared<ExcProductStructure>();
-    structure->setUnits(ELengthUnitType::Centimeter);
+    structure->setUnits(ELengthUnitType::Millimeter);
     structure->setWorldOrientation(EWorldOrientation::UpY);
     structure->addBlock(part);
     structure->addBlock(assembly);
@@ -295,7 +297,7 @@ TEST(GltfExport, BlockReferencesPlaceSharedMeshes)
     EXPECT_EQ(top.name, "instance \xC3\xA9");
     ASSERT_EQ(top.children.size(), 2u);
     const auto& second = model.nodes[top.children[1]];
-    EXPECT_EQ(second.translation, (std::vector<double>{2.5, 0, 0})); // 250 cm
+    EXPECT_EQ(second.translation, (std::vector<double>{0.25, 0, 0})); // 250 mm
     EXPECT_NEAR(second.rotation[2], std::sin(0.5), 1e-12);
     std::vector<int> meshes;
     for (int instance : top.children) {
