@@ -14,6 +14,7 @@
 #include <hrm_api/hrm_api_json_binary.h>
 
 #include <cctype>
+#include "structure_sample.h"
 #include "visualization_sample.h"
 
 #include <cstdint>
@@ -247,6 +248,9 @@ void envelopes()
     // Both visualization roots, with one object of every class of their family.
     saveBinary("block_visualization", *samples::full::block());
     saveBinary("root_assembly_visualization", *samples::full::assembly());
+    // Product structures: one object of every class of the family, and a small assembly.
+    saveBinary("product_structure", *samples::full::productStructure());
+    saveBinary("assembly", *samples::productStructure(12, 40));
 
     // Buffer names a reader must neither load nor remove, each beside a payload that the
     // buffer of the right name holds: capitals, a NUL, a lone surrogate, a path, a device, a
