@@ -5,12 +5,8 @@
 
 #include "visualization_sample.h"
 
-#if __has_include(<hrm_api/hrm_api_exchange_structure.h>)
 #include <hrm_api/hrm_api_exchange_structure.h>
-#define HRM_TEST_STRUCTURE 1
-#else
-#define HRM_TEST_STRUCTURE 0
-#endif
+
 
 #include <gtest/gtest.h>
 #include <tiny_gltf.h>
@@ -248,7 +244,6 @@ TEST(GltfExport, EmptyInputAndTheFullSample)
     EXPECT_EQ(progress.back(), 1.0);
 }
 
-#if HRM_TEST_STRUCTURE
 std::shared_ptr<ExcBlockReference> referenceTo(uint64_t block, double x, double turn = 0)
 {
     auto reference = std::make_shared<ExcBlockReference>();
@@ -316,7 +311,6 @@ TEST(GltfExport, BlockReferencesPlaceSharedMeshes)
     few.maxNodes = 5;
     EXPECT_THROW(toGlb(input, few), std::length_error);
 }
-#endif
 
 } // namespace
 } // namespace hrm

@@ -3,15 +3,10 @@
 
 #include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_exchange_object.h>
+#include <hrm_api/hrm_api_exchange_structure.h>
 #include <mp/mp_shared_buffer.h>
 
 #include "support/temp_dir.h"
-#if __has_include(<hrm_api/hrm_api_exchange_structure.h>)
-#include <hrm_api/hrm_api_exchange_structure.h>
-#define HRM_TEST_STRUCTURE 1
-#else
-#define HRM_TEST_STRUCTURE 0
-#endif
 #include "visualization_sample.h"
 
 #include <gtest/gtest.h>
@@ -234,7 +229,6 @@ TEST_F(ToolTest, CommandLine)
     EXPECT_NE(hrm("frobnicate").err, "");
 }
 
-#if HRM_TEST_STRUCTURE
 // An assembly (block 2) that places block 1 twice, 250 mm apart and turned by one radian.
 std::shared_ptr<ExcProductStructure> twoInstances()
 {
@@ -262,20 +256,17 @@ std::shared_ptr<ExcProductStructure> twoInstances()
     structure->addRootBlockReference(place(2, 0, 0));
     return structure;
 }
-#endif
 
 // The export of a product structure that places one block twice, kept as tool.glb for the
 // validator and the browser (which expects two copies).
 TEST_F(ToolTest, GltfExportsWhatTheEnvelopesAnnounce)
 {
-    std::string input = envelope(samples::blockVisualization(5000)) + envelope(std::make_shared<ExcProgress>());
-#if HRM_TEST_STRUCTURE
-    input += envelope(twoInstances());
-#endif
+    const std::string input = envelope(samples::blockVisualization(5000)) +
+                              envelope(std::make_shared<ExcProgress>()) + envelope(twoInstances());
     writeFile(m_dir / "envelopes", input + "{broken");
     const Outcome run = hrm("gltf envelopes -o model.glb");
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, "hrm: envelope " + std::to_string(HRM_TEST_STRUCTURE + 3) + ": Invalid json document\n");
+    EXPECT_EQ(run.err, "hrm: envelope 4: Invalid json document\n");
     EXPECT_EQ(readFile(m_dir / "model.glb").substr(0, 4), "glTF");
     EXPECT_TRUE(fs::exists(shm(m_buffers[0]))); // read, not removed
     fs::create_directories(HRM_GLB_DIR);
