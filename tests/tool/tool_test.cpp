@@ -229,7 +229,7 @@ TEST_F(ToolTest, CommandLine)
     EXPECT_NE(hrm("frobnicate").err, "");
 }
 
-// An assembly (block 2) that places block 1 twice, 250 mm apart and turned by one radian.
+// An assembly (block 2) that places block 1 twice, 200 mm apart and turned by one radian.
 std::shared_ptr<ExcProductStructure> twoInstances()
 {
     auto place = [](uint64_t block, double x, double turn) {
@@ -247,7 +247,7 @@ std::shared_ptr<ExcProductStructure> twoInstances()
     auto assembly = std::make_shared<ExcBlock>();
     assembly->setId(2);
     assembly->addBlockReference(place(1, 0, 0));
-    assembly->addBlockReference(place(1, 250, 1.0));
+    assembly->addBlockReference(place(1, 200, 1.0));
     auto structure = std::make_shared<ExcProductStructure>();
     structure->setUnits(ELengthUnitType::Millimeter);
     structure->setWorldOrientation(EWorldOrientation::UpZ);
@@ -261,7 +261,7 @@ std::shared_ptr<ExcProductStructure> twoInstances()
 // validator and the browser (which expects two copies).
 TEST_F(ToolTest, GltfExportsWhatTheEnvelopesAnnounce)
 {
-    const std::string input = envelope(samples::blockVisualization(5000)) +
+    const std::string input = envelope(samples::blockVisualization(20000)) +
                               envelope(std::make_shared<ExcProgress>()) + envelope(twoInstances());
     writeFile(m_dir / "envelopes", input + "{broken");
     const Outcome run = hrm("gltf envelopes -o model.glb");
