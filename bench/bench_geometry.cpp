@@ -9,8 +9,8 @@
 //   FlushGzip    flush(true) (Deflate + SharedWrite: Compressor::compress, then the write)
 //   LoadGzip     load() of it (SharedRead + Inflate)
 //
-// The payload: 64 MB of doubles along a random walk, as coordinates are, which deflate to
-// about half their size. scripts/bench prints the ratios.
+// The payload: 64 MiB of doubles along a random walk, as coordinates are, which deflate to about
+// nine tenths of their size. scripts/bench prints the ratios.
 
 #include <hrm_api/hrm_api.h>
 

@@ -5,7 +5,6 @@
 #include <logging/ax_herm_logger.h>
 #include <mp/mp_exception.h>
 
-#include "hrm_api/hrm_api_buffer_name.h"
 #include "hrm_api/hrm_api_json_members.h"
 
 #include <algorithm>
@@ -230,7 +229,7 @@ bool ExcBlockGeometry::setBinaryData(const char* data, size_t size, bool compres
 void ExcBlockGeometry::load()
 {
     HRM_TRACE();
-    if (!m_source.empty() && !isBufferName(m_source))
+    if (!m_source.empty() && !ExchangeObjectWrapper::isBufferName(m_source))
         throw mp::SharedMemoryException(L"ExcBlockGeometry: shared memory buffer name is not a UUID");
     if (!m_buffer || m_buffer->name() != m_source)
         m_buffer = std::make_shared<ExcSharedAcisBuffer>(m_source, m_own);
