@@ -1,11 +1,6 @@
 #include <hrm_api/hrm_api_gltf.h>
 
-#if __has_include(<hrm_api/hrm_api_exchange_structure.h>)
 #include <hrm_api/hrm_api_exchange_structure.h>
-#define HRM_GLTF_HAS_STRUCTURE 1
-#else
-#define HRM_GLTF_HAS_STRUCTURE 0
-#endif
 
 #include "hrm_api_gltf_geometry.h"
 
@@ -180,13 +175,8 @@ public:
 
     tinygltf::Model& build()
     {
-#if HRM_GLTF_HAS_STRUCTURE
         const ExcProductStructure* structure = m_input.productStructure.get();
         const EWorldOrientation up = structure ? structure->worldOrientation() : EWorldOrientation::Unknown;
-#else
-        const void* structure = nullptr;
-        const EWorldOrientation up = EWorldOrientation::Unknown;
-#endif
         tinygltf::Node root;
         root.name = "model";
         const double half = std::sqrt(0.5);
@@ -198,13 +188,11 @@ public:
 
         std::vector<int> children;
         if (structure) {
-#if HRM_GLTF_HAS_STRUCTURE
             std::vector<uint64_t> path;
             for (const auto& reference : structure->rootBlockReferences()) {
                 if (reference)
                     add(children, placeReference(*reference, path));
             }
-#endif
         } else {
             for (const auto& [id, data] : m_blockData)
                 add(children, place(picture(id, *data), "block " + std::to_string(id)));
@@ -313,7 +301,6 @@ private:
         return topIndex;
     }
 
-#if HRM_GLTF_HAS_STRUCTURE
     // Places `reference` and what it holds: the picture of its block and the block's own
     // references. Returns its node, or -1 when it is left out.
     int placeReference(const ExcBlockReference& reference, std::vector<uint64_t>& path)
@@ -348,7 +335,6 @@ private:
         model().nodes[index].children = std::move(children);
         return index;
     }
-#endif
 
     const GltfInput& m_input;
     ModelBuilder m_builder;

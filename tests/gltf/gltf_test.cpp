@@ -5,10 +5,8 @@
 
 #include "visualization_sample.h"
 
-#if __has_include(<hrm_api/hrm_api_exchange_structure.h>)
 #include <hrm_api/hrm_api_exchange_structure.h>
-#define HRM_TEST_STRUCTURE 1
-#endif
+
 
 #include <gtest/gtest.h>
 #include <tiny_gltf.h>
@@ -246,7 +244,6 @@ TEST(GltfExport, EmptyInputAndTheFullSample)
     EXPECT_EQ(progress.back(), 1.0);
 }
 
-#if HRM_TEST_STRUCTURE
 std::shared_ptr<ExcBlockReference> referenceTo(uint64_t block, double x, double turn = 0)
 {
     auto reference = std::make_shared<ExcBlockReference>();
@@ -279,7 +276,7 @@ TEST(GltfExport, BlockReferencesPlaceSharedMeshes)
     assembly->addBlockReference(suppressed);
     assembly->addBlockReference(referenceTo(2, 1000)); // a cycle
     auto structure = std::make_shared<ExcProductStructure>();
-    structure->setUnits(ELengthUnitType::Centimeter);
+    structure->setUnits(ELengthUnitType::Millimeter);
     structure->setWorldOrientation(EWorldOrientation::UpY);
     structure->addBlock(part);
     structure->addBlock(assembly);
@@ -295,7 +292,7 @@ TEST(GltfExport, BlockReferencesPlaceSharedMeshes)
     EXPECT_EQ(top.name, "instance \xC3\xA9");
     ASSERT_EQ(top.children.size(), 2u);
     const auto& second = model.nodes[top.children[1]];
-    EXPECT_EQ(second.translation, (std::vector<double>{2.5, 0, 0})); // 250 cm
+    EXPECT_EQ(second.translation, (std::vector<double>{0.25, 0, 0})); // 250 mm
     EXPECT_NEAR(second.rotation[2], std::sin(0.5), 1e-12);
     std::vector<int> meshes;
     for (int instance : top.children) {
@@ -314,7 +311,6 @@ TEST(GltfExport, BlockReferencesPlaceSharedMeshes)
     few.maxNodes = 5;
     EXPECT_THROW(toGlb(input, few), std::length_error);
 }
-#endif
 
 } // namespace
 } // namespace hrm

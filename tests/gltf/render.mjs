@@ -4,7 +4,7 @@
 //
 // Prints what the picture holds: the share of pixels the model covers, its main colours and
 // the number of separate pieces. With --colour (0-255), fails unless the model covers between
-// 5% and 95% of the picture and a fifth of its pixels have that colour's hue; with --copies,
+// 1% and 95% of the picture and a fifth of its pixels have that colour's hue; with --copies,
 // fails unless the picture shows that many separate pieces. The page is served from this
 // machine (127.0.0.1) and loads nothing from elsewhere.
 import fs from 'node:fs';
@@ -51,8 +51,17 @@ try {
   const size = box.getSize(new THREE.Vector3()).length() || 1;
   const centre = box.getCenter(new THREE.Vector3());
   const camera = new THREE.PerspectiveCamera(35, ${width} / ${height}, size / 100, size * 100);
-  camera.position.copy(centre).add(new THREE.Vector3(0.6, 0.5, 1.0).normalize().multiplyScalar(size * 0.95));
+  camera.position.copy(centre).add(new THREE.Vector3(0.6, 0.5, 1.0).normalize().multiplyScalar(size));
   camera.lookAt(centre);
+  camera.updateMatrixWorld();
+  // Zoom until the box's corners fill nine tenths of the picture.
+  let extent = 0;
+  for (const x of [box.min.x, box.max.x]) for (const y of [box.min.y, box.max.y]) for (const z of [box.min.z, box.max.z]) {
+    const p = new THREE.Vector3(x, y, z).project(camera);
+    extent = Math.max(extent, Math.abs(p.x), Math.abs(p.y));
+  }
+  camera.zoom = extent > 0 && Number.isFinite(extent) ? 0.9 / extent : 1;
+  camera.updateProjectionMatrix();
   renderer.render(scene, camera);
   window.rendered = { ok: true };
 } catch (error) {
@@ -173,7 +182,7 @@ try {
   if (colour) {
     const share = shareOfHue(pixels, colour);
     console.log(`  ${(100 * share).toFixed(0)}% of the model's pixels have the hue of rgb(${colour})`);
-    if (picture.coverage < 0.05 || picture.coverage > 0.95 || share < 0.2) failed = true;
+    if (picture.coverage < 0.01 || picture.coverage > 0.95 || share < 0.2) failed = true;
   }
   if (copies !== undefined && picture.pieces !== copies) failed = true;
 } finally {

@@ -3,6 +3,7 @@
 
 #include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_exchange_object.h>
+#include <hrm_api/hrm_api_exchange_structure.h>
 #include <mp/mp_shared_buffer.h>
 
 #include "support/temp_dir.h"
@@ -10,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -227,14 +229,44 @@ TEST_F(ToolTest, CommandLine)
     EXPECT_NE(hrm("frobnicate").err, "");
 }
 
+// An assembly (block 2) that places block 1 twice, 200 mm apart and turned by one radian.
+std::shared_ptr<ExcProductStructure> twoInstances()
+{
+    auto place = [](uint64_t block, double x, double turn) {
+        auto reference = std::make_shared<ExcBlockReference>();
+        reference->setBlockId(block);
+        ExcTransformation transformation;
+        transformation.affine()[0] = ExcVector3d(std::cos(turn), -std::sin(turn), 0);
+        transformation.affine()[1] = ExcVector3d(std::sin(turn), std::cos(turn), 0);
+        transformation.translation() = ExcVector3d(x, 0, 0);
+        reference->setTransformation(transformation);
+        return reference;
+    };
+    auto part = std::make_shared<ExcBlock>();
+    part->setId(1);
+    auto assembly = std::make_shared<ExcBlock>();
+    assembly->setId(2);
+    assembly->addBlockReference(place(1, 0, 0));
+    assembly->addBlockReference(place(1, 200, 1.0));
+    auto structure = std::make_shared<ExcProductStructure>();
+    structure->setUnits(ELengthUnitType::Millimeter);
+    structure->setWorldOrientation(EWorldOrientation::UpZ);
+    structure->addBlock(part);
+    structure->addBlock(assembly);
+    structure->addRootBlockReference(place(2, 0, 0));
+    return structure;
+}
+
+// The export of a product structure that places one block twice, kept as tool.glb for the
+// validator and the browser (which expects two copies).
 TEST_F(ToolTest, GltfExportsWhatTheEnvelopesAnnounce)
 {
-    const std::string input = envelope(samples::blockVisualization(5000)) + envelope(std::make_shared<ExcProgress>()) +
-                              "{broken";
-    writeFile(m_dir / "envelopes", input);
+    const std::string input = envelope(samples::blockVisualization(20000)) +
+                              envelope(std::make_shared<ExcProgress>()) + envelope(twoInstances());
+    writeFile(m_dir / "envelopes", input + "{broken");
     const Outcome run = hrm("gltf envelopes -o model.glb");
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, "hrm: envelope 3: Invalid json document\n");
+    EXPECT_EQ(run.err, "hrm: envelope 4: Invalid json document\n");
     EXPECT_EQ(readFile(m_dir / "model.glb").substr(0, 4), "glTF");
     EXPECT_TRUE(fs::exists(shm(m_buffers[0]))); // read, not removed
     fs::create_directories(HRM_GLB_DIR);

@@ -3,15 +3,9 @@
 #include "hrm_tool.h"
 
 #include <hrm_api/hrm_api_exchange_object.h>
+#include <hrm_api/hrm_api_exchange_structure.h>
 #include <hrm_api/hrm_api_gltf.h>
 #include <logging/ax_herm_logger.h>
-#if __has_include(<hrm_api/hrm_api_exchange_structure.h>)
-#include <hrm_api/hrm_api_exchange_structure.h>
-#else
-namespace hrm {
-class ExcProductStructure : public IExchangeObject {};
-}
-#endif
 
 #include <iostream>
 #include <memory>
