@@ -269,11 +269,7 @@ std::wstring toEnvelope(const IExchangeObject& object, std::wstring* createdBuff
 
 ExchangeObjectWrapper fromEnvelope(const std::wstring& envelope)
 {
-    HRM_TRACE();
-    ExchangeObjectWrapper wrapper;
-    std::wistringstream in(envelope);
-    wrapper.readObject(in);
-    return wrapper;
+    return mp::fromText<ExchangeObjectWrapper>(envelope);
 }
 
 // ---- Status objects -----------------------------------------------------------------------
