@@ -12,16 +12,20 @@
 #include <hrm_api/hrm_api_exchange_mechanical_misc.h>
 #include <hrm_api/hrm_api_exchange_mechanical_topology.h>
 
+#include "common_sample.h"
+
 #include <memory>
 #include <string>
 
 namespace hrm::samples::mechanical {
 
-// An entity named `id`.
+// An entity named `id`, a face of an instance.
 inline std::shared_ptr<ExcEntity> entity(const std::wstring& id)
 {
     auto entity = std::make_shared<ExcEntity>();
     entity->setId(id);
+    entity->setType(ExcEntity::EType::Fsp);
+    entity->setFsp(full::subentPath());
     entity->setDescription(L"face of " + id);
     return entity;
 }
@@ -67,9 +71,7 @@ inline std::shared_ptr<ExcMiscNoteParameters> noteParameters()
 {
     auto parameters = std::make_shared<ExcMiscNoteParameters>();
     parameters->setName(L"Title block");
-    ExcMiscPropertiesGroup group;
-    group.setName(L"Drawing");
-    parameters->setProperties(group);
+    parameters->setProperties(*full::propertiesGroup());
     return parameters;
 }
 
@@ -132,9 +134,7 @@ inline std::shared_ptr<ExcMiscDisplaySet> displaySet()
 inline std::shared_ptr<ExcMechanicalMiscData> miscData()
 {
     auto data = std::make_shared<ExcMechanicalMiscData>();
-    auto group = std::make_shared<ExcMiscPropertiesGroup>();
-    group->setName(L"Part attributes");
-    data->miscData().addGroup(group);
+    data->setMiscData(*full::miscData());
     data->addWorldCoordinateSystem(wcs());
     data->addLayer(layer());
     data->addLayerFilter(layerFilter());

@@ -28,8 +28,11 @@ TEST(ExcMfgFeatureHole, TravelsWithoutTheKeysOfTheFeature)
     hole.addLinkedElement(sample::entity(L"e"));
     hole.setName(L"Hole");
     hole.setPattern(sample::rectangularPattern());
-    hole.addDefiningGeometry(sample::entity(L"d"));
-    EXPECT_EQ(toText(hole), LR"({"limiting":[],"defining":[{"description":"face of d","id":"d"}]})");
+    auto defining = std::make_shared<ExcEntity>();
+    defining->setId(L"d");
+    hole.addDefiningGeometry(defining);
+    EXPECT_EQ(toText(hole),
+              LR"({"limiting":[],"defining":[{"type":"unknown","fsp":null,"description":"","id":"d"}],"hole_data":null})");
 
     // Reading the feature's keys does not set them either; "hole_data" replaces the hole held.
     const auto held = sample::simpleHole();

@@ -108,7 +108,7 @@ TEST(ExcEntityData, AnUnknownLineTypeReadsAsCurveBatting)
     EXPECT_EQ(data.data()[1]->lineType(), LineType::CurveBatting);
     EXPECT_EQ(data.data()[2]->lineType(), LineType::Tracks);
     EXPECT_EQ(toText(*data.data()[2]),
-              LR"({"pnames":[],"name":"","hidden":false,"line_type":"tracks","line_thickness":0.0})");
+              LR"({"entity":null,"pnames":[],"name":"","hidden":false,"line_type":"tracks","line_thickness":0.0})");
 }
 
 TEST(MechanicalMiscData, NullChildrenAreRefusedWithTheirOwnWarnings)

@@ -16,6 +16,10 @@
 #include <hrm_api/hrm_api_exchange_common.h>
 #include <hrm_api/hrm_api_exchange_common_entity.h>
 #include <hrm_api/hrm_api_exchange_object.h>
+#include <hrm_api/hrm_api_exchange_mechanical_misc.h>
+#include <hrm_api/hrm_api_exchange_mechanical_mfg_parts.h>
+#include <hrm_api/hrm_api_exchange_mechanical_mfg.h>
+#include <hrm_api/hrm_api_exchange_mechanical_topology.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 #include <hrm_api/hrm_api_exchange_visualization_attributes.h>
 #include <hrm_api/hrm_api_command_options.h>

@@ -80,9 +80,8 @@ private:
     ExcEntities m_definingGeometry;
 };
 
-// A hole feature of one kind: the hole feature keys, then "hole_data" (the Hole, when set; a
-// present member is read into a new Hole that replaces the one held). Instantiated for the
-// five kinds of hole.
+// A hole feature of one kind: the hole feature keys, then "hole_data" (the Hole, null when there
+// is none). Instantiated for the five kinds of hole.
 template <class Hole>
 class HRM_API ExcMfgFeatureHoleType : public ExcMfgFeatureHole
 {

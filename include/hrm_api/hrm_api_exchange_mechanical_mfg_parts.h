@@ -7,7 +7,7 @@
 // Reading and writing follow the rules of the mechanical data (hrm_api_exchange_mechanical_misc.h):
 // lenient reading, "<class> object should have a JSON object type." for a value of the wrong
 // kind, unknown words read as their table's alphabetically first word, lists read appended to
-// those held, null single children not written, equality as the same JSON.
+// those held, equality as the same JSON.
 
 #include <hrm_api/hrm_api_exchange_common.h>
 #include <hrm_api/hrm_api_exchange_mechanical_misc.h>
@@ -131,7 +131,7 @@ private:
 
 // What every hole has: {"name", "primary_diameter", "primary_diameter_max_tol",
 // "primary_diameter_min_tol", "primary_depth", "tip_angle_degrees", "bottom_limit_extent_type",
-// "center", "direction", "hole_thread"} ("hole_thread" only when there is one).
+// "center", "direction", "hole_thread" (only when there is one)}.
 class HRM_API ExcMfgHole : public IJsonObject
 {
 public:
@@ -383,8 +383,8 @@ public:
 protected:
     ExcMfgGridPattern() = default;
 
-    // "base_instance", "simplified", "visible_instances", "deactivated_instances": the keys
-    // that end both grid patterns. A pair of another size is skipped with the warning given.
+    // "base_instance" (only when there is one), "simplified", "visible_instances",
+    // "deactivated_instances": the keys that end both grid patterns. A pair of another size is skipped with the warning given.
     template <class Members>
     void gridMembers(Members& m, const char* invalidVisiblePair, const char* invalidDeactivatedPair);
 
@@ -472,8 +472,8 @@ private:
     bool m_fixedRotationOrientation = false;
 };
 
-// Instances at given places: {"type", "anchor_point", "base_instance", "instance_positions",
-// "deactivated_positions"}, the positions as arrays of vectors.
+// Instances at given places: {"type", "anchor_point", "base_instance" (null when there is none),
+// "instance_positions", "deactivated_positions"}, the positions as arrays of vectors.
 class HRM_API ExcMfgPatternUserDefined : public ExcMfgPattern
 {
 public:

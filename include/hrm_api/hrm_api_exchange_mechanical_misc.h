@@ -9,8 +9,10 @@
 // Every class reads leniently: a missing member, or one of the wrong JSON kind, keeps its field;
 // a value of the wrong kind for the whole object is logged ("<class> object should have a JSON
 // object type.") and changes nothing; an unknown word reads as its table's alphabetically first
-// word. Lists read are appended to those held. A null single child is not written. Adders
-// refuse a null child with a warning. Two objects are equal when they write the same JSON.
+// word. Lists read are appended to those held, and written also when empty. A single child is
+// written as null when there is none, or left out where a class says so; a present member is
+// read into a new child that replaces the one held (null takes it away). Adders refuse a null
+// child with a warning. Two objects are equal when they write the same JSON.
 
 #include <hrm_api/hrm_api_exchange_common.h>
 #include <hrm_api/hrm_api_exchange_common_entity.h>
@@ -298,7 +300,8 @@ private:
     bool m_partLevelMaterial = false;
 };
 
-// An entity mirrored by a transformation: {"transform_mode", "transformation", "linked_entity"}.
+// An entity mirrored by a transformation: {"transform_mode", "transformation", "linked_entity"
+// (null when there is none)}.
 class HRM_API ExcMiscSymmetry : public IJsonObject
 {
 public:

@@ -17,7 +17,7 @@
 
 namespace hrm {
 
-// One entity and how it is shown: {"entity" (when set), "pnames", "name", "hidden",
+// One entity and how it is shown: {"entity" (null when there is none), "pnames", "name", "hidden",
 // "line_type", "line_thickness"}.
 class HRM_API ExcTopologicalEntityInformation : public IJsonObject
 {

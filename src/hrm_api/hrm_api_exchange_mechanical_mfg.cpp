@@ -34,7 +34,7 @@ template <class Members>
 void ExcMfgFeatureHoleType<Hole>::members(Members& m)
 {
     ExcMfgFeatureHole::members(m);
-    m.child(L"hole_data", m_hole);
+    m.nullableChild(L"hole_data", m_hole);
 }
 
 template <class Hole>

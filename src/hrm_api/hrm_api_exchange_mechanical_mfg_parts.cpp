@@ -241,7 +241,7 @@ template <class Members>
 void ExcMfgPatternUserDefined::members(Members& m)
 {
     ExcMfgPattern::members(m);
-    m.child(L"base_instance", m_baseInstance)
+    m.nullableChild(L"base_instance", m_baseInstance)
         .values(L"instance_positions", m_instancePositions)
         .values(L"deactivated_positions", m_deactivatedPositions);
 }

@@ -167,7 +167,7 @@ void ExcMiscSymmetry::members(Members& m)
 {
     m.enumeration(L"transform_mode", m_transformMode)
         .object(L"transformation", m_transformation)
-        .child(L"linked_entity", m_linkedEntity);
+        .nullableChild(L"linked_entity", m_linkedEntity);
 }
 HRM_MEMBER_IO(ExcMiscSymmetry, "ExcMiscSymmetry")
 HRM_EQUALITY_AS_JSON(ExcMiscSymmetry)

@@ -38,7 +38,7 @@ HRM_ENUM_STRINGS(ExcTopologicalEntityInformation::ELineType,
 template <class Members>
 void ExcTopologicalEntityInformation::members(Members& m)
 {
-    m.child(L"entity", m_entity)
+    m.nullableChild(L"entity", m_entity)
         .strings(L"pnames", m_persistentNames)
         .string(L"name", m_name)
         .boolean(L"hidden", m_hidden)
