@@ -14,6 +14,7 @@
 #include <hrm_api/hrm_api_json_binary.h>
 
 #include <cctype>
+#include "mechanical_sample.h"
 #include "visualization_sample.h"
 
 #include <cstdint>
@@ -247,6 +248,9 @@ void envelopes()
     // Both visualization roots, with one object of every class of their family.
     saveBinary("block_visualization", *samples::full::block());
     saveBinary("root_assembly_visualization", *samples::full::assembly());
+    // Both mechanical roots; the block holds one object of every class of its family.
+    saveBinary("block_mechanical_data", *samples::mechanical::block());
+    saveBinary("root_mechanical_data", *samples::mechanical::root());
 
     // Buffer names a reader must neither load nor remove, each beside a payload that the
     // buffer of the right name holds: capitals, a NUL, a lone surrogate, a path, a device, a

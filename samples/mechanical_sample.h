@@ -1,8 +1,9 @@
 #pragma once
 
 // One small object of every class of the miscellaneous mechanical data, the manufacturing
-// features and the entity information, with every member set away from its default, for the
-// tests, the fuzz seeds and anyone who needs a filled example:
+// features and the entity information, with every member set away from its default, and both
+// mechanical roots (the block holding every kind of child, the PMI of samples::pmi), for the
+// tests, the fuzz seeds, the two-process test and anyone who needs a filled example:
 //
 //   auto data = hrm::samples::mechanical::mfgData();   // every kind of feature
 //
@@ -10,9 +11,11 @@
 
 #include <hrm_api/hrm_api_exchange_mechanical_mfg.h>
 #include <hrm_api/hrm_api_exchange_mechanical_misc.h>
+#include <hrm_api/hrm_api_exchange_mechanical_roots.h>
 #include <hrm_api/hrm_api_exchange_mechanical_topology.h>
 
 #include "common_sample.h"
+#include "pmi_sample.h"
 
 #include <memory>
 #include <string>
@@ -395,6 +398,30 @@ inline std::shared_ptr<ExcEntityData> entityData()
     plain->setName(L"plain");
     data->addData(plain);
     return data;
+}
+
+// ---- The two roots ----------------------------------------------------------------------
+
+inline std::shared_ptr<ExcRootMechanicalData> root()
+{
+    auto root = std::make_shared<ExcRootMechanicalData>();
+    root->setPMIData(pmi::data());
+    root->setLogFile(L"C:\\temp\\translation \u00e9.log");
+    return root;
+}
+
+// A block with every kind of child.
+inline std::shared_ptr<ExcBlockMechanicalData> block()
+{
+    auto block = std::make_shared<ExcBlockMechanicalData>();
+    block->setBlockId(0x1234567890ull);
+    block->setLogFile(L"/tmp/translation.log");
+    block->setPMIData(pmi::data());
+    block->setMiscData(miscData());
+    block->setMappingData(mapping());
+    block->setManufacturingData(mfgData());
+    block->setEntityData(entityData());
+    return block;
 }
 
 } // namespace hrm::samples::mechanical
