@@ -228,6 +228,8 @@ TEST(ExchangeObjectRegistry, KnowsEveryTypeOfTheLibraryAlsoInAStaticBuild)
                           {L"exc_stage_finished", false},
                           {L"legacy_component_instance_names", false},
                           {L"legacy_component_material_map", false},
+                          {L"exc_block_geometry", false},
+                          {L"exc_product_structure", true},
                           {L"exc_root_mechanical_data", true},
                           {L"exc_block_mechanical_data", true},
                           {L"exc_root_assembly_visualization", true},

@@ -1,6 +1,8 @@
 #include "hrm_api/hrm_api_exchange_types.h"
 
+#include <hrm_api/hrm_api_exchange_mechanical_geometry.h>
 #include <hrm_api/hrm_api_exchange_mechanical_roots.h>
+#include <hrm_api/hrm_api_exchange_structure.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 
 #include <tuple>
@@ -25,6 +27,8 @@ void addLibraryTypes(ExchangeObjectRegistry& registry)
 {
     addPrototypes<ExcMessage, ExcLog, ExcProgress, ExcStageFinished, LegacyComponentInstanceNames, LegacyMaterialMap>(
         registry);
+    addPrototypes<ExcProductStructure>(registry);
+    addPrototypes<ExcBlockGeometry>(registry);
     addPrototypes<ExcRootMechanicalData, ExcBlockMechanicalData>(registry);
     addPrototypes<ExcBlockVisualization, ExcRootAssemblyVisualization>(registry);
 }
