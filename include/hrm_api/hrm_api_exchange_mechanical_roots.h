@@ -22,28 +22,32 @@
 
 namespace hrm {
 
-// What both mechanical data objects are: binary and compressed whatever happens, with the PMI
-// data they carry and the path of the translator's log.
+/// What both mechanical data objects are: binary and compressed whatever happens, with the PMI
+/// data they carry and the path of the translator's log.
 class HRM_API ExcMechanicalDataObject : public IExchangeObject
 {
 public:
+    /// Always true: the object travels in shared memory.
     bool binary() const final { return true; }
+    /// Always true: its payload is compressed.
     bool compress() const final { return true; }
 
+    /// The PMI, or null.
     const std::shared_ptr<ExcPMIData>& pmiData() const { return m_pmiData; }
     void setPMIData(std::shared_ptr<ExcPMIData> data) { m_pmiData = std::move(data); }
+    /// The path of the translator's log, or empty.
     const std::wstring& logFile() const { return m_logFile; }
     void setLogFile(const std::wstring& path) { m_logFile = path; }
 
 protected:
     ExcMechanicalDataObject() = default;
 
-    std::shared_ptr<ExcPMIData> m_pmiData;
-    std::wstring m_logFile;
+    std::shared_ptr<ExcPMIData> m_pmiData; ///< The PMI, or null.
+    std::wstring m_logFile;                ///< The path of the translator's log, or empty.
 };
 
-// The mechanical data of the model as a whole: {"pmi_data" (when set), "log_file" (when not
-// empty)}.
+/// The mechanical data of the model as a whole: {"pmi_data" (when set), "log_file" (when not
+/// empty)}.
 class HRM_API ExcRootMechanicalData
     : public ExchangeObjectType<ExcRootMechanicalData, ExcMechanicalDataObject, Cloning::Copy>
 {
@@ -52,6 +56,7 @@ public:
 
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+    /// Whether both write the same JSON.
     bool operator==(const ExcRootMechanicalData& other) const;
     bool operator!=(const ExcRootMechanicalData& other) const { return !(*this == other); }
 
@@ -59,28 +64,33 @@ private:
     HRM_MEMBER_LIST;
 };
 
-// The mechanical data of one block: {"block_id", "log_file" (when not empty), "pmi_data",
-// "misc_data", "mapping_data", "mfg_data", "entity_data" (each when set)}.
+/// The mechanical data of one block: {"block_id", "log_file" (when not empty), "pmi_data",
+/// "misc_data", "mapping_data", "mfg_data", "entity_data" (each when set)}.
 class HRM_API ExcBlockMechanicalData
     : public ExchangeObjectType<ExcBlockMechanicalData, ExcMechanicalDataObject, Cloning::Copy>
 {
 public:
     static constexpr wchar_t s_objectName[] = L"exc_block_mechanical_data";
 
-    // The id of the block (ExcBlock) the data belongs to.
+    /// The id of the block (ExcBlock) the data belongs to.
     uint64_t blockId() const { return m_blockId; }
     void setBlockId(uint64_t id) { m_blockId = id; }
+    /// The free property groups.
     const std::shared_ptr<ExcMechanicalMiscData>& miscData() const { return m_miscData; }
     void setMiscData(std::shared_ptr<ExcMechanicalMiscData> data) { m_miscData = std::move(data); }
+    /// The entity mapping, or null.
     const std::shared_ptr<ExcMappingData>& mappingData() const { return m_mappingData; }
     void setMappingData(std::shared_ptr<ExcMappingData> data) { m_mappingData = std::move(data); }
+    /// The manufacturing features, or null.
     const std::shared_ptr<ExcMfgData>& manufacturingData() const { return m_manufacturingData; }
     void setManufacturingData(std::shared_ptr<ExcMfgData> data) { m_manufacturingData = std::move(data); }
+    /// The entity information, or null.
     const std::shared_ptr<ExcEntityData>& entityData() const { return m_entityData; }
     void setEntityData(std::shared_ptr<ExcEntityData> data) { m_entityData = std::move(data); }
 
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+    /// Whether both write the same JSON.
     bool operator==(const ExcBlockMechanicalData& other) const;
     bool operator!=(const ExcBlockMechanicalData& other) const { return !(*this == other); }
 
