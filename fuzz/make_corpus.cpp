@@ -16,6 +16,7 @@
 #include <hrm_api/hrm_api_json_binary.h>
 
 #include <cctype>
+#include "mechanical_sample.h"
 #include "pmi_sample.h"
 #include "structure_sample.h"
 #include "visualization_sample.h"
@@ -254,6 +255,9 @@ void envelopes()
     // Product structures: one object of every class of the family, and a small assembly.
     saveBinary("product_structure", *samples::full::productStructure());
     saveBinary("assembly", *samples::productStructure(12, 40));
+    // Both mechanical roots; the block holds one object of every class of its family.
+    saveBinary("block_mechanical_data", *samples::mechanical::block());
+    saveBinary("root_mechanical_data", *samples::mechanical::root());
 
     // Buffer names a reader must neither load nor remove, each beside a payload that the
     // buffer of the right name holds: capitals, a NUL, a lone surrogate, a path, a device, a

@@ -217,11 +217,30 @@ TEST(MemberLayer, ExpectReportsAContradictingWord)
 
 TEST(ExchangeObjectRegistry, KnowsEveryTypeOfTheLibraryAlsoInAStaticBuild)
 {
-    const auto names = ExchangeObjectRegistry::instance().names();
-    for (const wchar_t* name : {L"exc_message", L"exc_log", L"exc_progress", L"exc_stage_finished",
-                                L"legacy_component_instance_names", L"legacy_component_material_map",
-                                L"exc_block_geometry"})
-        EXPECT_NE(std::find(names.begin(), names.end(), name), names.end()) << toNarrow(name);
+    struct Type
+    {
+        const wchar_t* name;
+        bool binaryAndCompressed;
+    };
+    const Type types[] = {{L"exc_message", false},
+                          {L"exc_log", false},
+                          {L"exc_progress", false},
+                          {L"exc_stage_finished", false},
+                          {L"legacy_component_instance_names", false},
+                          {L"legacy_component_material_map", false},
+                          {L"exc_block_geometry", false},
+                          {L"exc_product_structure", true},
+                          {L"exc_root_mechanical_data", true},
+                          {L"exc_block_mechanical_data", true},
+                          {L"exc_root_assembly_visualization", true},
+                          {L"exc_block_visualization", true}};
+    for (const Type& type : types) {
+        const auto object = ExchangeObjectRegistry::instance().get(type.name);
+        ASSERT_TRUE(object) << toNarrow(type.name);
+        EXPECT_EQ(object->objectName(), type.name);
+        EXPECT_EQ(object->binary(), type.binaryAndCompressed) << toNarrow(type.name);
+        EXPECT_EQ(object->compress(), type.binaryAndCompressed) << toNarrow(type.name);
+    }
 }
 
 } // namespace

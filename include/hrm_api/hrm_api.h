@@ -50,6 +50,11 @@
 #include <hrm_api/hrm_api_exchange_object.h>
 #include <hrm_api/hrm_api_exchange_mechanical_geometry.h>
 #include <hrm_api/hrm_api_exchange_structure.h>
+#include <hrm_api/hrm_api_exchange_mechanical_misc.h>
+#include <hrm_api/hrm_api_exchange_mechanical_mfg_parts.h>
+#include <hrm_api/hrm_api_exchange_mechanical_mfg.h>
+#include <hrm_api/hrm_api_exchange_mechanical_topology.h>
+#include <hrm_api/hrm_api_exchange_mechanical_roots.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 #include <hrm_api/hrm_api_exchange_visualization_attributes.h>
 #include <hrm_api/hrm_api_exchange_mechanical_pmi.h>

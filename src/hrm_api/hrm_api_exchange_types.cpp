@@ -1,6 +1,7 @@
 #include "hrm_api/hrm_api_exchange_types.h"
 
 #include <hrm_api/hrm_api_exchange_mechanical_geometry.h>
+#include <hrm_api/hrm_api_exchange_mechanical_roots.h>
 #include <hrm_api/hrm_api_exchange_structure.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 
@@ -28,6 +29,7 @@ void addLibraryTypes(ExchangeObjectRegistry& registry)
         registry);
     addPrototypes<ExcProductStructure>(registry);
     addPrototypes<ExcBlockGeometry>(registry);
+    addPrototypes<ExcRootMechanicalData, ExcBlockMechanicalData>(registry);
     addPrototypes<ExcBlockVisualization, ExcRootAssemblyVisualization>(registry);
 }
 

@@ -196,7 +196,7 @@ void ExcVisuFace::members(Members& m)
     m.object(L"color", m_color).string(L"mechanical_id", m_mechanicalId).string(L"id", m_id);
 }
 HRM_MEMBER_IO(ExcVisuFace, "ExcVisuFace")
-HRM_VISU_EQUALITY(ExcVisuFace)
+HRM_EQUALITY_AS_JSON(ExcVisuFace)
 
 template <class Members>
 void ExcVisuEdge::members(Members& m)
@@ -208,7 +208,7 @@ void ExcVisuEdge::members(Members& m)
         .string(L"mechanical_id", m_mechanicalId);
 }
 HRM_MEMBER_IO(ExcVisuEdge, "ExcVisuEdge")
-HRM_VISU_EQUALITY(ExcVisuEdge)
+HRM_EQUALITY_AS_JSON(ExcVisuEdge)
 
 template <class Members>
 void ExcVisuPoints::members(Members& m)
@@ -219,7 +219,7 @@ void ExcVisuPoints::members(Members& m)
         .object(L"color", m_color);
 }
 HRM_MEMBER_IO(ExcVisuPoints, "ExcVisuPoints")
-HRM_VISU_EQUALITY(ExcVisuPoints)
+HRM_EQUALITY_AS_JSON(ExcVisuPoints)
 
 template <class Members>
 void ExcVisuText::members(Members& m)
@@ -232,7 +232,7 @@ void ExcVisuText::members(Members& m)
         .child(L"font", m_font);
 }
 HRM_MEMBER_IO(ExcVisuText, "ExcVisuText")
-HRM_VISU_EQUALITY(ExcVisuText)
+HRM_EQUALITY_AS_JSON(ExcVisuText)
 
 template <class Members>
 void ExcVisuGeometry::members(Members& m)
@@ -251,7 +251,7 @@ void ExcVisuMesh::members(Members& m)
     m.writtenIf(!m_faces.empty()).children(L"faces", m_faces).writtenIf(!m_edges.empty()).children(L"edges", m_edges);
 }
 HRM_MEMBER_IO(ExcVisuMesh, "ExcVisuMesh")
-HRM_VISU_EQUALITY(ExcVisuMesh)
+HRM_EQUALITY_AS_JSON(ExcVisuMesh)
 
 HRM_VISU_ADDERS(ExcVisuWire, ExcVisuEdge, addEdge, addEdges, m_edges, "Edge")
 
@@ -262,7 +262,7 @@ void ExcVisuWire::members(Members& m)
     m.writtenIf(!m_edges.empty()).children(L"edges", m_edges);
 }
 HRM_MEMBER_IO(ExcVisuWire, "ExcVisuWire")
-HRM_VISU_EQUALITY(ExcVisuWire)
+HRM_EQUALITY_AS_JSON(ExcVisuWire)
 
 HRM_VISU_ADDERS(ExcVisuPointSet, ExcVisuPoints, addPoints, addPointsList, m_points, "Points")
 
@@ -273,7 +273,7 @@ void ExcVisuPointSet::members(Members& m)
     m.writtenIf(!m_points.empty()).children(L"points", m_points);
 }
 HRM_MEMBER_IO(ExcVisuPointSet, "ExcVisuPointSet")
-HRM_VISU_EQUALITY(ExcVisuPointSet)
+HRM_EQUALITY_AS_JSON(ExcVisuPointSet)
 
 HRM_VISU_ADDERS(ExcVisuPMI, ExcVisuEdge, addEdge, addEdges, m_edges, "Edge")
 HRM_VISU_ADDERS(ExcVisuPMI, ExcVisuText, addText, addTexts, m_texts, "Text")
@@ -285,7 +285,7 @@ void ExcVisuPMI::members(Members& m)
     m.writtenIf(!m_edges.empty()).children(L"edges", m_edges).writtenIf(!m_texts.empty()).children(L"texts", m_texts);
 }
 HRM_MEMBER_IO(ExcVisuPMI, "ExcVisuPMI")
-HRM_VISU_EQUALITY(ExcVisuPMI)
+HRM_EQUALITY_AS_JSON(ExcVisuPMI)
 
 HRM_VISU_ADDERS(ExcVisuNode, ExcVisuNode, addChildNode, addChildNodes, m_childNodes, "Node")
 
@@ -305,7 +305,7 @@ void ExcVisuNode::members(Members& m)
         .children(L"child_nodes", m_childNodes);
 }
 HRM_MEMBER_IO(ExcVisuNode, "ExcVisuNode")
-HRM_VISU_EQUALITY(ExcVisuNode)
+HRM_EQUALITY_AS_JSON(ExcVisuNode)
 
 HRM_VISU_ADDERS(ExcVisualizationData, ExcVisuNode, addSceneRootNode, addSceneRootNodes, m_sceneRootNodes, "Node")
 HRM_VISU_ADDERS(ExcVisualizationData, ExcVisuView, addView, addViews, m_views, "View")
@@ -323,7 +323,7 @@ void ExcVisualizationData::members(Members& m)
         .children(L"captures", m_captures);
 }
 HRM_MEMBER_IO(ExcVisualizationData, "ExcVisualizationData")
-HRM_VISU_EQUALITY(ExcVisualizationData)
+HRM_EQUALITY_AS_JSON(ExcVisualizationData)
 
 template <class Members>
 void ExcBlockVisualization::members(Members& m)
@@ -331,7 +331,7 @@ void ExcBlockVisualization::members(Members& m)
     m.uint64(L"block_id", m_blockId).child(L"visualization_data", m_visualizationData);
 }
 HRM_MEMBER_IO(ExcBlockVisualization, "ExcBlockVisualization")
-HRM_VISU_EQUALITY(ExcBlockVisualization)
+HRM_EQUALITY_AS_JSON(ExcBlockVisualization)
 
 template <class Members>
 void ExcRootAssemblyVisualization::members(Members& m)
@@ -339,6 +339,6 @@ void ExcRootAssemblyVisualization::members(Members& m)
     m.child(L"visualization_data", m_visualizationData);
 }
 HRM_MEMBER_IO(ExcRootAssemblyVisualization, "ExcRootAssemblyVisualization")
-HRM_VISU_EQUALITY(ExcRootAssemblyVisualization)
+HRM_EQUALITY_AS_JSON(ExcRootAssemblyVisualization)
 
 } // namespace hrm

@@ -135,7 +135,7 @@ void ExcVisuFont::members(Members& m)
         .number(L"width_scaling_factor", m_widthScalingFactor);
 }
 HRM_MEMBER_IO(ExcVisuFont, "ExcVisuFont")
-HRM_VISU_EQUALITY(ExcVisuFont)
+HRM_EQUALITY_AS_JSON(ExcVisuFont)
 
 template <class Members>
 void ExcVisuLineAttribute::members(Members& m)
@@ -143,7 +143,7 @@ void ExcVisuLineAttribute::members(Members& m)
     m.number(L"line_weight", m_lineWeight).enumeration(L"line_style", m_lineStyle);
 }
 HRM_MEMBER_IO(ExcVisuLineAttribute, "ExcVisuLineAttribute")
-HRM_VISU_EQUALITY(ExcVisuLineAttribute)
+HRM_EQUALITY_AS_JSON(ExcVisuLineAttribute)
 
 ExcVisuTexture::EWrapMode ExcVisuTexture::wrapMode(std::size_t d) const
 {
@@ -203,7 +203,7 @@ void ExcVisuTexture::members(Members& m)
         .boolean(L"use_material", m_useMaterial);
 }
 HRM_MEMBER_IO(ExcVisuTexture, "ExcVisuTexture")
-HRM_VISU_EQUALITY(ExcVisuTexture)
+HRM_EQUALITY_AS_JSON(ExcVisuTexture)
 
 void ExcVisuMaterial::addTexture(ETextureType type, const std::shared_ptr<ExcVisuTexture>& texture)
 {
@@ -281,7 +281,7 @@ void ExcVisuMaterial::members(Members& m)
     typedTextures(m);
 }
 HRM_MEMBER_IO(ExcVisuMaterial, "ExcVisuMaterial")
-HRM_VISU_EQUALITY(ExcVisuMaterial)
+HRM_EQUALITY_AS_JSON(ExcVisuMaterial)
 
 HRM_VISU_ADDERS(ExcVisuAttributes, ExcVisuMaterial, addMaterial, addMaterials, m_materials, "Material")
 
@@ -296,7 +296,7 @@ void ExcVisuAttributes::members(Members& m)
         .child(L"line_attribute", m_lineAttribute);
 }
 HRM_MEMBER_IO(ExcVisuAttributes, "ExcVisuAttributes")
-HRM_VISU_EQUALITY(ExcVisuAttributes)
+HRM_EQUALITY_AS_JSON(ExcVisuAttributes)
 
 template <class Members>
 void ExcVisuView::members(Members& m)
@@ -310,7 +310,7 @@ void ExcVisuView::members(Members& m)
         .strings(L"annotation_ids", m_annotationIds);
 }
 HRM_MEMBER_IO(ExcVisuView, "ExcVisuView")
-HRM_VISU_EQUALITY(ExcVisuView)
+HRM_EQUALITY_AS_JSON(ExcVisuView)
 
 template <class Members>
 void ExcCamera::members(Members& m)
@@ -324,7 +324,7 @@ void ExcCamera::members(Members& m)
         .object(L"up", m_up);
 }
 HRM_MEMBER_IO(ExcCamera, "ExcCamera")
-HRM_VISU_EQUALITY(ExcCamera)
+HRM_EQUALITY_AS_JSON(ExcCamera)
 
 void ExcClippingPlane::setCoefficients(const Coefficients& coefficients)
 {
@@ -343,7 +343,7 @@ void ExcClippingPlane::members(Members& m)
     m.writtenIf(m_hasCoefficients).leading(L"plane_coefficients", m_coefficients);
 }
 HRM_MEMBER_IO(ExcClippingPlane, "ExcClippingPlane")
-HRM_VISU_EQUALITY(ExcClippingPlane)
+HRM_EQUALITY_AS_JSON(ExcClippingPlane)
 
 template <class Members>
 void ExcVisuCapture::members(Members& m)
@@ -362,6 +362,6 @@ void ExcVisuCapture::members(Members& m)
         .strings(L"bodies", m_bodies);
 }
 HRM_MEMBER_IO(ExcVisuCapture, "ExcVisuCapture")
-HRM_VISU_EQUALITY(ExcVisuCapture)
+HRM_EQUALITY_AS_JSON(ExcVisuCapture)
 
 } // namespace hrm

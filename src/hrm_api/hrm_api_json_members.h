@@ -215,6 +215,13 @@ inline bool readSlot(const JsonValue& element, IJsonObject& field)
 inline JsonValue writeSlot(const std::wstring& field, JsonAllocator& allocator) { return jsonString(field, allocator); }
 inline JsonValue writeSlot(double field, JsonAllocator&) { return JsonValue(field); }
 inline JsonValue writeSlot(int32_t field, JsonAllocator&) { return JsonValue(field); }
+inline JsonValue writeSlot(const std::pair<int32_t, int32_t>& field, JsonAllocator& allocator)
+{
+    JsonValue pair(rapidjson::kArrayType);
+    pair.Reserve(2, allocator);
+    pair.PushBack(field.first, allocator).PushBack(field.second, allocator);
+    return pair;
+}
 // Words are the library's own constant strings: the document refers to them without a copy.
 template <class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
 JsonValue writeSlot(E field, JsonAllocator&)
@@ -419,6 +426,27 @@ public:
         return *this;
     }
 
+    // An array of [i, j] pairs of 32-bit integers, appended to the field. An item that is an
+    // array of another size than two is logged at the warning level with `message` and skipped;
+    // any other item that is not two 32-bit integers is skipped silently.
+    MemberReader& intPairs(const wchar_t* key, std::vector<std::pair<int32_t, int32_t>>& field, const char* message)
+    {
+        const JsonValue* member = find(key);
+        if (!member || !member->IsArray())
+            return *this;
+        for (const JsonValue& item : member->GetArray()) {
+            if (!item.IsArray())
+                continue;
+            if (item.Size() != 2) {
+                HRM_LOG(ax_herm::Warning) << message;
+                continue;
+            }
+            if (item[0].IsInt() && item[1].IsInt())
+                field.emplace_back(item[0].GetInt(), item[1].GetInt());
+        }
+        return *this;
+    }
+
     // An array of exactly N elements, one per field. An array of another size is logged at the
     // warning level with `message` and leaves every field. Slot rules: a number slot takes any
     // number and becomes 0 for anything else; a string or enumeration slot keeps its value for
@@ -608,6 +636,11 @@ public:
         return array(key, field);
     }
     MemberWriter& ints(const wchar_t* key, const std::vector<int32_t>& field) { return array(key, field); }
+
+    MemberWriter& intPairs(const wchar_t* key, const std::vector<std::pair<int32_t, int32_t>>& field, const char*)
+    {
+        return array(key, field);
+    }
 
     template <class T, std::size_t N>
     MemberWriter& exactly(const wchar_t* key, const std::array<T, N>& fields, const char*)
@@ -811,4 +844,12 @@ void writeMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
     bool T::operator==(const T& other) const                  \
     {                                                         \
         return ::hrm::writeSameJson(*this, other);            \
+    }
+
+// T::add(child), which appends to `list` and refuses a null child with the warning
+// "T: attempt to add null <what> object.".
+#define HRM_CHILD_ADDER(T, Child, add, list, what)                                                \
+    void T::add(const std::shared_ptr<Child>& child)                                              \
+    {                                                                                             \
+        ::hrm::appendChild(list, child, #T ": attempt to add null " what " object.");             \
     }

@@ -3,14 +3,16 @@
 //                                          envelope into the file, and exits
 //   hrm_exchange_peer read <file> [kind]   reads the envelope, loads the object, checks that it
 //                                          is the one written, and removes the buffer
-// The kind of object is "binary" (the tests' own, the default) or "visualization" (a block
-// visualization of a 20,000-triangle mesh). Exits with 0 when the step succeeded.
+// The kind of object is "binary" (the tests' own, the default), "visualization" (a block
+// visualization of a 20,000-triangle mesh) or "mechanical" (a block's mechanical data with
+// every kind of child). Exits with 0 when the step succeeded.
 
 #include <hrm_api/hrm_api_exchange_object.h>
 #include <mp/mp_shared_buffer.h>
 
 #include "hrm_api/hrm_api_json_members.h"
 #include "support/test_exchange_object.h"
+#include "mechanical_sample.h"
 #include "visualization_sample.h"
 
 #include <fstream>
@@ -25,6 +27,8 @@ std::shared_ptr<hrm::IExchangeObject> made(const std::string& kind)
         return hrm::test::filledBinaryObject(true);
     if (kind == "visualization")
         return hrm::samples::blockVisualization(20000);
+    if (kind == "mechanical")
+        return hrm::samples::mechanical::block();
     return nullptr;
 }
 
@@ -60,7 +64,7 @@ int main(int argc, char** argv)
         const auto object = made(argc == 4 ? argv[3] : "binary");
         if (object && (mode == "write" || mode == "read"))
             return (mode == "write" ? write(argv[2], object) : read(argv[2], *object)) ? 0 : 1;
-        std::cerr << "usage: hrm_exchange_peer write|read <envelope file> [binary|visualization]\n";
+        std::cerr << "usage: hrm_exchange_peer write|read <envelope file> [binary|visualization|mechanical]\n";
     } catch (const std::exception& error) {
         std::cerr << mode << ": " << error.what() << '\n';
     }
