@@ -1,0 +1,49 @@
+#pragma once
+
+// The model read by OpenCASCADE (cad::) as the library's exchange objects.
+//
+// Identifiers, shared by every object of one import so that they can point at each other:
+//   block id            the block's index in cad::Structure::blocks plus one
+//   block reference     "persistent_id": the component's label entry ("0:1:1:1:2"); paths of
+//                       references (ExcFullSubentPath::refs) list these from the top down
+//   face, edge, vertex  "f<n>", "e<n>", "v<n>": the n-th face, edge or vertex of its block's
+//                       shape; the id of the ExcVisuFace, the mechanical id of the ExcVisuEdge,
+//                       and the id and visu id of the ExcEntity that points at it
+//   a part's mesh       "mesh-<block id>", which the root assembly visualization names
+
+#include "cad_model.h"
+
+#include <hrm_api/hrm_api_exchange_visualization.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace translator {
+
+// The id of the block at `index` of cad::Structure::blocks.
+inline uint64_t blockId(std::size_t index)
+{
+    return static_cast<uint64_t>(index) + 1;
+}
+
+// The id of a block's face, edge or vertex: "f12", "e3", "v7".
+std::wstring elementId(cad::ShapeRef::Kind kind, int index);
+
+// The wide text of UTF-8 (names from the file).
+std::wstring wide(const std::string& text);
+
+// An opaque colour of 0 to 255 channels from sRGB values of 0 to 1.
+hrm::ExcColor colorOf(const cad::Rgba& color);
+
+// The picture of one part: a root node over a leaf whose mesh holds a face per B-rep face
+// (one polygon, tagged 4, per triangle) and an edge per B-rep edge. Takes the arrays over.
+std::shared_ptr<hrm::ExcBlockVisualization> blockVisualization(const cad::Structure& structure, std::size_t block,
+                                                               cad::BlockMesh mesh);
+
+// The assembly as a scene graph: a group node per component with its placement, down to a
+// leaf per part instance whose mesh names the part's picture ("mesh-<block id>") and carries
+// no faces of its own.
+std::shared_ptr<hrm::ExcRootAssemblyVisualization> rootVisualization(const cad::Structure& structure);
+
+} // namespace translator
