@@ -265,5 +265,15 @@ TEST(NarrowText, AnsiCodePage)
 #endif
 }
 
+// UTF-8 whatever the narrow encoding is: characters beyond the code page and beyond 16 bits
+// survive both ways, and bad bytes read as U+FFFD.
+TEST(NarrowText, Utf8OnEveryPlatform)
+{
+    EXPECT_EQ(toUtf8(L"caf\x00e9 \x4e2d \U0001F600"), "caf\xC3\xA9 \xE4\xB8\xAD \xF0\x9F\x98\x80");
+    EXPECT_EQ(fromUtf8("caf\xC3\xA9 \xE4\xB8\xAD \xF0\x9F\x98\x80"), L"caf\x00e9 \x4e2d \U0001F600");
+    EXPECT_EQ(fromUtf8("a\xFF"), L"a\xFFFD");
+    EXPECT_EQ(toUtf8(L""), "");
+}
+
 } // namespace
 } // namespace hrm

@@ -3,6 +3,7 @@
 // The whole public interface of hrm_api.
 
 #include <hrm_api/hrm_api_export.h>
+#include <hrm_api/hrm_api_version.h>
 #include <hrm_api/hrm_api_json.h>
 #include <hrm_api/hrm_api_json_binary.h>
 #include <hrm_api/hrm_api_base64.h>
@@ -13,6 +14,7 @@
 #include <hrm_api/hrm_api_enums_legacy.h>
 #include <hrm_api/hrm_api_enums_options.h>
 #include <hrm_api/hrm_api_exchange_common.h>
+#include <hrm_api/hrm_api_exchange_common_entity.h>
 #include <hrm_api/hrm_api_exchange_object.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 #include <hrm_api/hrm_api_exchange_visualization_attributes.h>

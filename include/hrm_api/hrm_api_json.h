@@ -106,4 +106,10 @@ public:
 HRM_API std::string toNarrow(const std::wstring& text);
 HRM_API std::wstring toWide(const std::string& text);
 
+// UTF-8 on every platform, for text that leaves the process as bytes (files, standard
+// streams, glTF names). What UTF-8 cannot hold (a lone surrogate) becomes a replacement
+// character ('?', or U+FFFD on Windows); each invalid byte of UTF-8 input becomes U+FFFD.
+HRM_API std::string toUtf8(const std::wstring& text);
+HRM_API std::wstring fromUtf8(const std::string& text);
+
 } // namespace hrm

@@ -5,13 +5,8 @@
 
 #include "hrm_api/hrm_api_json_members.h"
 
-// T::operator==: the same JSON (so packed arrays compare bit for bit, and what does not
-// travel does not count).
-#define HRM_VISU_EQUALITY(T)                                  \
-    bool T::operator==(const T& other) const                  \
-    {                                                         \
-        return ::hrm::writeSameJson(*this, other);            \
-    }
+// T::operator==: the same JSON (so packed arrays compare bit for bit).
+#define HRM_VISU_EQUALITY(T) HRM_EQUALITY_AS_JSON(T)
 
 // T::addOne(child), which refuses a null child with the warning "T: attempt to add null
 // <what> object.", and T::addMany(children), which adds each of them so.

@@ -267,14 +267,25 @@ void JsonTextIO::fromString(const std::wstring& text, JsonDocument& document)
 
 namespace {
 
-std::string narrowed(const std::wstring& text, DWORD flags)
+std::string narrowed(const std::wstring& text, UINT codePage, DWORD flags)
 {
     if (text.empty())
         return {};
     const int size = static_cast<int>(text.size());
-    const int length = WideCharToMultiByte(CP_ACP, flags, text.data(), size, nullptr, 0, nullptr, nullptr);
+    const int length = WideCharToMultiByte(codePage, flags, text.data(), size, nullptr, 0, nullptr, nullptr);
     std::string result(static_cast<size_t>(length), '\0');
-    WideCharToMultiByte(CP_ACP, flags, text.data(), size, result.data(), length, nullptr, nullptr);
+    WideCharToMultiByte(codePage, flags, text.data(), size, result.data(), length, nullptr, nullptr);
+    return result;
+}
+
+std::wstring widened(const std::string& text, UINT codePage)
+{
+    if (text.empty())
+        return {};
+    const int size = static_cast<int>(text.size());
+    const int length = MultiByteToWideChar(codePage, 0, text.data(), size, nullptr, 0);
+    std::wstring result(static_cast<size_t>(length), L'\0');
+    MultiByteToWideChar(codePage, 0, text.data(), size, result.data(), length);
     return result;
 }
 
@@ -282,25 +293,29 @@ std::string narrowed(const std::wstring& text, DWORD flags)
 
 std::string toNarrow(const std::wstring& text)
 {
-    return narrowed(text, 0);
+    return narrowed(text, CP_ACP, 0);
 }
 
 bool toNarrowExactly(const std::wstring& text, std::string& narrow)
 {
     // UTF-8 as the active code page has no best fit and refuses the flag.
-    narrow = narrowed(text, GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS);
+    narrow = narrowed(text, CP_ACP, GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS);
     return toWide(narrow) == text;
 }
 
 std::wstring toWide(const std::string& text)
 {
-    if (text.empty())
-        return {};
-    const int size = static_cast<int>(text.size());
-    const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0);
-    std::wstring result(static_cast<size_t>(length), L'\0');
-    MultiByteToWideChar(CP_ACP, 0, text.data(), size, result.data(), length);
-    return result;
+    return widened(text, CP_ACP);
+}
+
+std::string toUtf8(const std::wstring& text)
+{
+    return narrowed(text, CP_UTF8, 0);
+}
+
+std::wstring fromUtf8(const std::string& text)
+{
+    return widened(text, CP_UTF8);
 }
 
 #else
@@ -365,6 +380,16 @@ std::wstring toWide(const std::string& text)
         i += valid ? length : 1;
     }
     return result;
+}
+
+std::string toUtf8(const std::wstring& text)
+{
+    return toNarrow(text);
+}
+
+std::wstring fromUtf8(const std::string& text)
+{
+    return toWide(text);
 }
 
 #endif

@@ -139,10 +139,10 @@ auto adder(Object* object, void (Object::*add)(const std::shared_ptr<T>&))
     return [object, add](std::shared_ptr<T> child) { (object->*add)(child); };
 }
 
-// The array form of a list of children: one element per child, each written by the child
-// itself; null children are left out.
-template <class T>
-void writeChildArray(const std::vector<std::shared_ptr<T>>& children, JsonValue& array, JsonAllocator& allocator)
+// The array form of a list (or set) of shared children: one element per child, each written by
+// the child itself; null children are left out.
+template <class Children>
+void writeChildArray(const Children& children, JsonValue& array, JsonAllocator& allocator)
 {
     array.SetArray();
     array.Reserve(static_cast<rapidjson::SizeType>(children.size()), allocator);
@@ -324,6 +324,15 @@ public:
             field = readNew<T>(*member);
         return *this;
     }
+    // A shared child that is written as null when there is none: null takes the child away,
+    // any other value makes a new T, read from it, that replaces the field.
+    template <class T>
+    MemberReader& nullableChild(const wchar_t* key, std::shared_ptr<T>& field)
+    {
+        if (const JsonValue* member = find(key))
+            field = member->IsNull() ? nullptr : readNew<T>(*member);
+        return *this;
+    }
     // A polymorphic child: a present member replaces the field by what `factory(member)`
     // makes of it (possibly null).
     template <class T, class Factory>
@@ -347,17 +356,18 @@ public:
     {
         return children(key, field, [&field](std::shared_ptr<T> child) { field.push_back(std::move(child)); });
     }
-    // An array of value objects held by value: each element is read into a new T and appended.
-    template <class T, std::enable_if_t<members_detail::IsJsonObject<T>::value, int> = 0>
-    MemberReader& values(const wchar_t* key, std::vector<T>& field)
+    // An array of value objects held by value (a vector, or a set): each element is read into a
+    // new value and inserted at the end (a set keeps the value it already holds in its place).
+    template <class Container, std::enable_if_t<members_detail::IsJsonObject<typename Container::value_type>::value, int> = 0>
+    MemberReader& values(const wchar_t* key, Container& field)
     {
         const JsonValue* member = find(key);
         if (!member || !member->IsArray())
             return *this;
         for (const JsonValue& element : member->GetArray()) {
-            T value;
+            typename Container::value_type value;
             value.readObject(element);
-            field.push_back(std::move(value));
+            field.insert(field.end(), std::move(value));
         }
         return *this;
     }
@@ -517,6 +527,12 @@ public:
             m_skipNext = true;
         return add(key, [&] { return members_detail::writeSlot(*field, m_allocator); });
     }
+    // Null when there is no child.
+    template <class T>
+    MemberWriter& nullableChild(const wchar_t* key, const std::shared_ptr<T>& field)
+    {
+        return add(key, [&] { return field ? members_detail::writeSlot(*field, m_allocator) : JsonValue(); });
+    }
     template <class T, class Factory>
     MemberWriter& child(const wchar_t* key, const std::shared_ptr<T>& field, Factory)
     {
@@ -536,8 +552,8 @@ public:
             return array;
         });
     }
-    template <class T, std::enable_if_t<members_detail::IsJsonObject<T>::value, int> = 0>
-    MemberWriter& values(const wchar_t* key, const std::vector<T>& field)
+    template <class Container, std::enable_if_t<members_detail::IsJsonObject<typename Container::value_type>::value, int> = 0>
+    MemberWriter& values(const wchar_t* key, const Container& field)
     {
         return array(key, field);
     }
@@ -675,6 +691,19 @@ void readMembers(T& object, const JsonValue& value, const char* className)
     MemberAccess::members(object, reader);
 }
 
+// The same, for a class that reports a value that is not an object in words of its own:
+// `message` at `level`.
+template <class T>
+void readMembers(T& object, const JsonValue& value, ax_herm::LogLevel level, const char* message)
+{
+    if (!value.IsObject()) {
+        HRM_LOG(level) << message;
+        return;
+    }
+    MemberReader reader(value);
+    MemberAccess::members(object, reader);
+}
+
 // Writes `object` through its member list, turning `value` into an object first if it is not
 // one already.
 template <class T>
@@ -692,16 +721,27 @@ void writeMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
 // Defines T::readObject and T::writeObject from T's member list, and instantiates the list for
 // both directions (so that classes derived from T in other sources can call it). `className`
 // names T in the not-an-object message; nullptr reads a non-object silently.
-#define HRM_MEMBER_IO(T, className)                                                        \
+#define HRM_MEMBER_IO(T, className) HRM_MEMBER_IO_REPORTING(T, className)
+
+// The same, where a value that is not an object is reported in the class's own words:
+// HRM_MEMBER_IO_REPORTING(T, ax_herm::Warning, "T::readObject: input JsonValue is not an object").
+#define HRM_MEMBER_IO_REPORTING(T, ...)                                                    \
     template void T::members<::hrm::MemberReader>(::hrm::MemberReader&);                   \
     template void T::members<::hrm::MemberWriter>(::hrm::MemberWriter&);                   \
     void T::readObject(const ::hrm::JsonValue& value)                                      \
     {                                                                                      \
         HRM_TRACE();                                                                       \
-        ::hrm::readMembers(*this, value, className);                                       \
+        ::hrm::readMembers(*this, value, __VA_ARGS__);                                     \
     }                                                                                      \
     void T::writeObject(::hrm::JsonValue& value, ::hrm::JsonAllocator& allocator) const    \
     {                                                                                      \
         HRM_TRACE();                                                                       \
         ::hrm::writeMembers(*this, value, allocator);                                      \
+    }
+
+// T::operator==: the same JSON (what does not travel does not count).
+#define HRM_EQUALITY_AS_JSON(T)                               \
+    bool T::operator==(const T& other) const                  \
+    {                                                         \
+        return ::hrm::writeSameJson(*this, other);            \
     }

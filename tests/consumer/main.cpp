@@ -3,6 +3,7 @@
 
 #include <iostream>
 #include <sstream>
+#include <string>
 
 int main()
 {
@@ -18,6 +19,8 @@ int main()
     hrm::JsonTextIO::write(out, document, false);
     if (out.str() != L"{\"unit\":\"meter\",\"values\":[1.0,2]}")
         return 3;
-    std::cout << "consumer ok\n";
+    if (std::string(hrm::libraryVersion()) != HRM_API_VERSION_STRING)
+        return 4; // the installed headers and library disagree
+    std::cout << "consumer ok, hrm_api " << hrm::libraryVersion() << "\n";
     return 0;
 }

@@ -15,7 +15,7 @@
 // binary JSON + gzip and shared memory (an exchange object through its envelope); that it writes
 // its keys in order; that each member is read (leaving it out changes what is read) and that a
 // member of another JSON kind is taken for a missing one; and that a value of the wrong kind is
-// reported once, with the class's name, and changes nothing. Family tests then hold only the
+// reported once, in the class's words, and changes nothing. Family tests then hold only the
 // odd rules.
 
 #include <hrm_api/hrm_api_compression.h>
@@ -42,8 +42,9 @@ struct MemberCase; // specialised per class
 
 struct MemberCaseDefaults
 {
-    // Logged at the error level for a value of the wrong JSON kind; null when that is silent.
+    // Logged at wrongKindLevel for a value of the wrong JSON kind; null when that is silent.
     static constexpr const char* wrongKindMessage = nullptr;
+    static constexpr int wrongKindLevel = ax_herm::Error;
     // The keys the sample writes, in order (empty for a class that is not a JSON object).
     static std::vector<std::wstring> keys() { return {}; }
     // Keys written but never read.
@@ -271,7 +272,8 @@ TYPED_TEST_P(MemberSuite, AValueOfTheWrongKindIsReportedOnce)
     object.readObject(wrongKind);
     expectSame(object, sample, "wrong kind");
     const char* message = TestFixture::Case::wrongKindMessage;
-    EXPECT_EQ(log.messages(ax_herm::Error), message ? std::vector<std::string>{message} : std::vector<std::string>{});
+    EXPECT_EQ(log.messages(TestFixture::Case::wrongKindLevel),
+              message ? std::vector<std::string>{message} : std::vector<std::string>{});
 }
 
 REGISTER_TYPED_TEST_SUITE_P(MemberSuite, TravelsThroughEveryEncoding, WritesItsKeysInOrder,
