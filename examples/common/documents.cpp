@@ -1,6 +1,6 @@
 #include "documents.h"
 
-#include "frame.h"
+#include <hrm_api/hrm_api_json.h>
 
 #include <filesystem>
 #include <sstream>
@@ -23,7 +23,7 @@ void readFrom(mp::ISerializable& document, const std::wstring& text)
 std::size_t sharedMemorySize(const std::wstring& name)
 {
     std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(std::filesystem::path("/dev/shm") / toUtf8(name), error);
+    const std::uintmax_t size = std::filesystem::file_size(std::filesystem::path("/dev/shm") / hrm::toUtf8(name), error);
     return error ? 0 : static_cast<std::size_t>(size);
 }
 

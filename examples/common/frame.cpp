@@ -41,45 +41,6 @@ Frame parsedHeader(const std::string& header, std::size_t& length)
     return frame;
 }
 
-void appendUtf8(std::string& out, char32_t c)
-{
-    if (c < 0x80) {
-        out += static_cast<char>(c);
-    } else if (c < 0x800) {
-        out += static_cast<char>(0xC0 | (c >> 6));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        out += static_cast<char>(0xE0 | (c >> 12));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (c >> 18));
-        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    }
-}
-
-void appendWide(std::wstring& out, char32_t c)
-{
-    if constexpr (sizeof(wchar_t) == 2) {
-        if (c >= 0x10000) {
-            c -= 0x10000;
-            out += static_cast<wchar_t>(0xD800 + (c >> 10));
-            out += static_cast<wchar_t>(0xDC00 + (c & 0x3FF));
-            return;
-        }
-    }
-    out += static_cast<wchar_t>(c);
-}
-
-constexpr char32_t replacement = 0xFFFD;
-
-bool isSurrogate(char32_t c)
-{
-    return c >= 0xD800 && c <= 0xDFFF;
-}
-
 } // namespace
 
 std::optional<Frame> Reader::read(int timeoutMilliseconds)
@@ -150,56 +111,6 @@ void write(int fd, const std::string& kind, const std::string& text)
             throw FrameError(std::string("Cannot write to the pipe: ") + std::strerror(errno));
         written += static_cast<std::size_t>(count);
     }
-}
-
-std::string toUtf8(const std::wstring& text)
-{
-    std::string out;
-    out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t c = static_cast<char32_t>(text[i]);
-        if constexpr (sizeof(wchar_t) == 2) {
-            c &= 0xFFFF;
-            if (c >= 0xD800 && c <= 0xDBFF && i + 1 < text.size()) {
-                const char32_t low = static_cast<char32_t>(text[i + 1]) & 0xFFFF;
-                if (low >= 0xDC00 && low <= 0xDFFF) {
-                    c = 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00);
-                    ++i;
-                }
-            }
-        }
-        if (isSurrogate(c) || c > 0x10FFFF)
-            c = replacement;
-        appendUtf8(out, c);
-    }
-    return out;
-}
-
-std::wstring fromUtf8(const std::string& text)
-{
-    std::wstring out;
-    out.reserve(text.size());
-    std::size_t i = 0;
-    while (i < text.size()) {
-        const unsigned char lead = static_cast<unsigned char>(text[i]);
-        if (lead < 0x80) {
-            out += static_cast<wchar_t>(lead);
-            ++i;
-            continue;
-        }
-        const std::size_t extra = lead >= 0xC2 && lead <= 0xDF ? 1 : lead >= 0xE0 && lead <= 0xEF ? 2 : lead >= 0xF0 && lead <= 0xF4 ? 3 : 0;
-        char32_t c = lead & (0x3F >> extra);
-        std::size_t k = 1;
-        while (extra > 0 && k <= extra && i + k < text.size() && (static_cast<unsigned char>(text[i + k]) & 0xC0) == 0x80) {
-            c = (c << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3F);
-            ++k;
-        }
-        const char32_t smallest = extra == 1 ? 0x80 : extra == 2 ? 0x800 : 0x10000;
-        const bool valid = extra > 0 && k == extra + 1 && c >= smallest && !isSurrogate(c) && c <= 0x10FFFF;
-        appendWide(out, valid ? c : replacement);
-        i += k;
-    }
-    return out;
 }
 
 } // namespace frame

@@ -63,9 +63,4 @@ private:
 // reader has gone: SIGPIPE is expected to be ignored).
 void write(int fd, const std::string& kind, const std::string& text);
 
-// UTF-8 of a wide text (code points on Linux, UTF-16 on Windows); lone surrogates become U+FFFD.
-std::string toUtf8(const std::wstring& text);
-// The wide text of UTF-8; invalid bytes become U+FFFD.
-std::wstring fromUtf8(const std::string& text);
-
 } // namespace frame

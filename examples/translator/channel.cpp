@@ -28,7 +28,7 @@ std::optional<frame::Frame> Channel::nextCommand()
 void Channel::sendText(const std::string& kind, const std::wstring& text)
 {
     try {
-        frame::write(m_out, kind, frame::toUtf8(text));
+        frame::write(m_out, kind, hrm::toUtf8(text));
     } catch (const frame::FrameError& error) {
         throw HostGone(error.what());
     }

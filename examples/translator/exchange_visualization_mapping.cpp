@@ -66,6 +66,17 @@ std::shared_ptr<hrm::ExcTransformation> transformationOf(const cad::Placement& p
     return transformation;
 }
 
+// A leaf over a part's mesh, named as the part.
+std::shared_ptr<hrm::ExcVisuNode> meshLeaf(const std::string& name, std::shared_ptr<hrm::ExcVisuMesh> mesh)
+{
+    auto leaf = std::make_shared<hrm::ExcVisuNode>();
+    leaf->setLeaf(true);
+    leaf->setType(hrm::ExcVisuNode::EType::Mesh);
+    leaf->setGroupName(wide(name));
+    leaf->setMesh(std::move(mesh));
+    return leaf;
+}
+
 std::shared_ptr<hrm::ExcVisuNode> instanceNode(const cad::Structure& structure, const cad::Component& component)
 {
     const cad::Block& block = structure.blocks[component.block];
@@ -87,11 +98,7 @@ std::shared_ptr<hrm::ExcVisuNode> instanceNode(const cad::Structure& structure, 
     mesh->setDisplayName(wide(block.name));
     mesh->setId(meshId(component.block));
     mesh->setGeometryType(hrm::EVisuGeometryType::Part);
-    auto leaf = std::make_shared<hrm::ExcVisuNode>();
-    leaf->setLeaf(true);
-    leaf->setType(hrm::ExcVisuNode::EType::Mesh);
-    leaf->setMesh(mesh);
-    node->addChildNode(leaf);
+    node->addChildNode(meshLeaf(block.name, mesh));
     return node;
 }
 
@@ -104,7 +111,7 @@ std::wstring elementId(cad::ShapeRef::Kind kind, int index)
 
 std::wstring wide(const std::string& text)
 {
-    return frame::fromUtf8(text);
+    return hrm::fromUtf8(text);
 }
 
 hrm::ExcColor colorOf(const cad::Rgba& color)
@@ -131,14 +138,10 @@ std::shared_ptr<hrm::ExcBlockVisualization> blockVisualization(const cad::Struct
         edges.push_back(visuEdge(std::move(line)));
     visuMesh->setEdges(std::move(edges));
 
-    auto leaf = std::make_shared<hrm::ExcVisuNode>();
-    leaf->setLeaf(true);
-    leaf->setType(hrm::ExcVisuNode::EType::Mesh);
-    leaf->setMesh(visuMesh);
     auto root = std::make_shared<hrm::ExcVisuNode>();
     root->setType(hrm::ExcVisuNode::EType::Root);
     root->setGroupName(wide(part.name));
-    root->addChildNode(leaf);
+    root->addChildNode(meshLeaf(part.name, visuMesh));
 
     auto data = std::make_shared<hrm::ExcVisualizationData>();
     data->setUnits(hrm::ELengthUnitType::Millimeter);

@@ -235,7 +235,7 @@ std::shared_ptr<Options> optionsOf(const hrm::ImportOptions& options, hrm::EForm
 ImportSettings settingsOf(const hrm::ImportOptions& options)
 {
     ImportSettings settings;
-    settings.file = frame::toUtf8(options.file());
+    settings.file = hrm::toUtf8(options.file());
     if (const auto graphical = optionsOf<hrm::OptionsGraphical>(options, hrm::EFormatType::Graphical)) {
         settings.sag = std::max(0.0, graphical->tessellation3dSagValue());
         if (graphical->visuBRepTessellationMode() == hrm::EVisuBRepTessellationModeType::Never)

@@ -3,7 +3,13 @@
 // ping gives an ok Result, info a HermetorInfo, import the model's exchange objects as each
 // stage completes and then a Result. It ends when its input ends. SIGTERM, SIGINT and SIGHUP
 // stop a running import at the next step (the Result says "interrupted"); the translator then
-// ends without leaving a shared-memory buffer that the host was not told about.
+// ends without leaving a shared-memory buffer that the host was not told about; between
+// commands they end it at once.
+//
+//   hrm-translator [--deflate ENGINE[:LEVEL]]
+//
+// ENGINE is zlib, libdeflate or igzip (those the library was built with); by default igzip at
+// level 1, else libdeflate at level 1, else zlib at level 1.
 
 #include "cad_document.h"
 #include "channel.h"
@@ -12,19 +18,24 @@
 #include "import_job.h"
 
 #include <hrm_api/hrm_api_command.h>
+#include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_hermetor_info.h>
 
 #include <atomic>
 #include <csignal>
 #include <cstring>
 #include <iostream>
+#include <unistd.h>
 
 namespace {
 
 std::atomic<bool> stopRequested{false};
+std::atomic<bool> importRunning{false};
 
-extern "C" void onStopSignal(int)
+extern "C" void onStopSignal(int signal)
 {
+    if (!importRunning)
+        _exit(128 + signal);
     stopRequested = true;
 }
 
@@ -71,7 +82,7 @@ void answer(translator::Channel& channel, const frame::Frame& received)
     }
     hrm::Command command;
     try {
-        frame::readFrom(command, frame::fromUtf8(received.text));
+        frame::readFrom(command, hrm::fromUtf8(received.text));
     } catch (const std::exception& error) {
         channel.send(resultOf(hrm::Result::ECode::Error, L"Cannot read the command: " + translator::wide(error.what())));
         return;
@@ -88,9 +99,13 @@ void answer(translator::Channel& channel, const frame::Frame& received)
             channel.send(resultOf(hrm::Result::ECode::Error, L"This translator imports through the current interface only"));
             return;
         }
-        stopRequested = false;
-        channel.send(translator::runImport(channel, translator::settingsOf(*command.importOptions()), stopRequested));
+    {
+        importRunning = true;
+        const hrm::Result result = translator::runImport(channel, translator::settingsOf(*command.importOptions()), stopRequested);
+        importRunning = false;
+        channel.send(result);
         return;
+    }
     case hrm::Command::EType::Export:
         channel.send(resultOf(hrm::Result::ECode::Error, L"This translator does not export"));
         return;
@@ -100,11 +115,48 @@ void answer(translator::Channel& channel, const frame::Frame& received)
     }
 }
 
+// The compression of the binary objects' payloads: `choice` ("igzip:1"), or the fastest engine
+// built in. Throws std::invalid_argument for an unknown or missing engine.
+hrm::Compression compressionOf(const std::string& choice)
+{
+    if (choice.empty()) {
+        for (hrm::DeflateEngine engine : {hrm::DeflateEngine::igzip, hrm::DeflateEngine::libdeflate}) {
+            if (hrm::Compressor::isAvailable(engine))
+                return {engine, 1};
+        }
+        return {hrm::DeflateEngine::zlib, 1};
+    }
+    const std::size_t colon = choice.find(':');
+    const std::string name = choice.substr(0, colon);
+    hrm::Compression compression;
+    if (name == "zlib")
+        compression.engine = hrm::DeflateEngine::zlib;
+    else if (name == "libdeflate")
+        compression.engine = hrm::DeflateEngine::libdeflate;
+    else if (name == "igzip")
+        compression.engine = hrm::DeflateEngine::igzip;
+    else
+        throw std::invalid_argument("unknown deflate engine '" + name + "'");
+    if (!hrm::Compressor::isAvailable(compression.engine))
+        throw std::invalid_argument("the library was built without " + name);
+    if (colon != std::string::npos)
+        compression.level = std::stoi(choice.substr(colon + 1));
+    return compression;
+}
+
 } // namespace
 
-int main()
+int main(int argc, char** argv)
 {
     try {
+        std::string deflate;
+        for (int i = 1; i < argc; ++i) {
+            if (std::string(argv[i]) == "--deflate" && i + 1 < argc)
+                deflate = argv[++i];
+            else
+                throw std::invalid_argument(std::string("usage: hrm-translator [--deflate ENGINE[:LEVEL]]"));
+        }
+        hrm::Compressor::setCompression(compressionOf(deflate));
         translator::Channel channel = translator::Channel::fromStandardStreams();
         installSignalHandlers();
         while (!stopRequested) {
