@@ -60,6 +60,7 @@ int main(int argc, char** argv)
     std::string translator = defaultTranslator();
     std::string output;
     std::string deflate;
+    double angle = 0;
     bool noGlb = false;
     bool verbose = false;
     app.add_option("file", request.file, "the model to import (.stp, .step, .p21, .igs, .iges)")->required();
@@ -71,6 +72,8 @@ int main(int argc, char** argv)
     app.add_option("--timeout", request.timeoutSeconds, "the longest the translator may stay silent, in seconds (0: no limit)")
         ->check(CLI::NonNegativeNumber);
     app.add_option("--translator", translator, "the translator program")->capture_default_str();
+    app.add_option("--angle", angle, "the translator's angular deviation of the tessellation in radians (default 0.5)")
+        ->check(CLI::PositiveNumber);
     app.add_option("--deflate", deflate, "the translator's compression, ENGINE[:LEVEL] (zlib, libdeflate, igzip)");
     app.add_flag("-v,--verbose", verbose, "report the translator's process id, each stage and progress on standard error");
     CLI11_PARSE(app, argc, argv);
@@ -84,7 +87,9 @@ int main(int argc, char** argv)
     try {
         std::vector<std::string> arguments;
         if (!deflate.empty())
-            arguments = {"--deflate", deflate};
+            arguments.insert(arguments.end(), {"--deflate", deflate});
+        if (angle > 0)
+            arguments.insert(arguments.end(), {"--angle", std::to_string(angle)});
         host::TranslatorProcess process(translator, arguments);
         if (verbose)
             std::fprintf(stderr, "hrm-host: translator %s started, pid %d\n", translator.c_str(), static_cast<int>(process.pid()));

@@ -13,9 +13,11 @@
 
 #include "cad_model.h"
 
+#include <hrm_api/hrm_api_exchange_mechanical_pmi_sets.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -45,5 +47,18 @@ std::shared_ptr<hrm::ExcBlockVisualization> blockVisualization(const cad::Struct
 // leaf per part instance whose mesh names the part's picture ("mesh-<block id>") and carries
 // no faces of its own.
 std::shared_ptr<hrm::ExcRootAssemblyVisualization> rootVisualization(const cad::Structure& structure);
+
+// The semantic PMI of an import by owner: one annotation set with one view per block, holding
+// the annotations whose faces all lie in that block (and the datums without faces that its
+// tolerances name); the root's holds the rest, linked through paths from the top.
+struct PmiByOwner
+{
+    std::map<std::size_t, std::shared_ptr<hrm::ExcPMIData>> blocks; // by index of cad::Structure::blocks
+    std::shared_ptr<hrm::ExcPMIData> root;                          // null when every annotation has its block
+};
+
+// Datums, dimensions (tolerances as signed offsets from the value) and geometric tolerances
+// (with their datum reference frames), each linked to the faces it annotates.
+PmiByOwner pmiData(const cad::Structure& structure, const cad::Pmi& pmi);
 
 } // namespace translator

@@ -127,7 +127,7 @@ private:
     void sendBlockVisualizations(const cad::Document& document)
     {
         const cad::Structure& structure = document.structure();
-        const cad::MeshOptions options{m_settings.sag, 0.5};
+        const cad::MeshOptions options{m_settings.sag, m_settings.angle};
         std::size_t done = 0;
         for (std::size_t block = 0; block < structure.blocks.size(); ++block) {
             if (structure.blocks[block].isAssembly)

@@ -17,6 +17,8 @@ struct ImportSettings
 {
     std::string file;
     double sag = 0;                 // tessellation sag in millimetres; 0 lets the translator choose
+    double angle = 0.5;             // angular deviation of the tessellation in radians (not in the command:
+                                    // the translator's own setting)
     bool visualization = true;      // a block visualization per part
     bool rootVisualization = true;  // the root assembly visualization
     bool pmi = true;                // the mechanical data with the semantic PMI

@@ -6,10 +6,11 @@
 // ends without leaving a shared-memory buffer that the host was not told about; between
 // commands they end it at once.
 //
-//   hrm-translator [--deflate ENGINE[:LEVEL]]
+//   hrm-translator [--deflate ENGINE[:LEVEL]] [--angle RADIANS]
 //
 // ENGINE is zlib, libdeflate or igzip (those the library was built with); by default igzip at
-// level 1, else libdeflate at level 1, else zlib at level 1.
+// level 1, else libdeflate at level 1, else zlib at level 1. RADIANS is the tessellation's
+// angular deviation (0.5 by default; the command gives only the sag).
 
 #include "cad_document.h"
 #include "channel.h"
@@ -20,6 +21,7 @@
 #include <hrm_api/hrm_api_command.h>
 #include <hrm_api/hrm_api_compression.h>
 #include <hrm_api/hrm_api_hermetor_info.h>
+#include <hrm_api/hrm_api_version.h>
 
 #include <atomic>
 #include <csignal>
@@ -29,6 +31,14 @@
 
 namespace {
 
+// The translator's own settings, from its command line.
+struct Settings
+{
+    std::string deflate;
+    double angle = 0.5;
+};
+
+Settings settings;
 std::atomic<bool> stopRequested{false};
 std::atomic<bool> importRunning{false};
 
@@ -64,7 +74,7 @@ hrm::HermetorInfo info()
 {
     hrm::HermetorInfo info;
     info.setName(L"hrm-translator");
-    info.setVersion(L"" HRM_EXAMPLES_VERSION);
+    info.setVersion(hrm::fromUtf8(hrm::libraryVersion()));
     info.setRequestedInterface(hrm::EHermetorInterface::Connect);
     info.newThirdpartyCore()->setName(L"OpenCASCADE").setVersion(translator::wide(cad::kernelVersion()));
     info.newImportFormat()->setDescription(L"STEP").setExtensions({L"stp", L"step", L"p21"}).addFilterExtensions({L"stp", L"step"});
@@ -101,7 +111,9 @@ void answer(translator::Channel& channel, const frame::Frame& received)
         }
     {
         importRunning = true;
-        const hrm::Result result = translator::runImport(channel, translator::settingsOf(*command.importOptions()), stopRequested);
+        translator::ImportSettings import = translator::settingsOf(*command.importOptions());
+        import.angle = settings.angle;
+        const hrm::Result result = translator::runImport(channel, import, stopRequested);
         importRunning = false;
         channel.send(result);
         return;
@@ -149,14 +161,16 @@ hrm::Compression compressionOf(const std::string& choice)
 int main(int argc, char** argv)
 {
     try {
-        std::string deflate;
         for (int i = 1; i < argc; ++i) {
-            if (std::string(argv[i]) == "--deflate" && i + 1 < argc)
-                deflate = argv[++i];
+            const std::string option = argv[i];
+            if (option == "--deflate" && i + 1 < argc)
+                settings.deflate = argv[++i];
+            else if (option == "--angle" && i + 1 < argc && std::stod(argv[i + 1]) > 0)
+                settings.angle = std::stod(argv[++i]);
             else
-                throw std::invalid_argument(std::string("usage: hrm-translator [--deflate ENGINE[:LEVEL]]"));
+                throw std::invalid_argument("usage: hrm-translator [--deflate ENGINE[:LEVEL]] [--angle RADIANS]");
         }
-        hrm::Compressor::setCompression(compressionOf(deflate));
+        hrm::Compressor::setCompression(compressionOf(settings.deflate));
         translator::Channel channel = translator::Channel::fromStandardStreams();
         installSignalHandlers();
         while (!stopRequested) {
