@@ -18,6 +18,9 @@
 #include <hrm_api/hrm_api_exchange_object.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 #include <hrm_api/hrm_api_exchange_visualization_attributes.h>
+#include <hrm_api/hrm_api_exchange_mechanical_pmi.h>
+#include <hrm_api/hrm_api_exchange_mechanical_pmi_tolerances.h>
+#include <hrm_api/hrm_api_exchange_mechanical_pmi_sets.h>
 #include <hrm_api/hrm_api_command_options.h>
 #include <hrm_api/hrm_api_format_options.h>
 #include <hrm_api/hrm_api_format_options_export.h>

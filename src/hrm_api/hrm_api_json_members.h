@@ -30,6 +30,7 @@
 #include <hrm_api/hrm_api_json.h>
 #include <logging/ax_herm_logger.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -452,6 +453,47 @@ public:
         return *this;
     }
 
+    // The first elements of an array, at most N, one per field in order: an element the slot
+    // refuses leaves its field and the next element goes on (where `leading` stops); fields past
+    // the end of a shorter array keep their values, elements past N are ignored.
+    template <class T, std::size_t N>
+    MemberReader& upTo(const wchar_t* key, std::array<T, N>& fields)
+    {
+        const JsonValue* member = find(key);
+        if (!member || !member->IsArray())
+            return *this;
+        const rapidjson::SizeType count = std::min(member->Size(), static_cast<rapidjson::SizeType>(N));
+        for (rapidjson::SizeType i = 0; i < count; ++i)
+            members_detail::readSlot((*member)[i], fields[i]);
+        return *this;
+    }
+
+    // A value the object may lack, with the flag that says whether it has it: written only while
+    // `present` holds. A member of the field's kind (a slot's rule: any number for a double, a
+    // string for a string) sets the field and `present`; anything else leaves both.
+    template <class T>
+    MemberReader& optional(const wchar_t* key, T& field, bool& present)
+    {
+        if (const JsonValue* member = find(key); member && members_detail::readSlot(*member, field))
+            present = true;
+        return *this;
+    }
+
+    // A nested object that exists exactly while `present` holds, its members stated by
+    // `inner(members)`: reading sets `present` to whether the member is a JSON object and, when
+    // it is, reads the inner members from it.
+    template <class Inner>
+    MemberReader& section(const wchar_t* key, bool& present, Inner inner)
+    {
+        const JsonValue* member = find(key);
+        present = member && member->IsObject();
+        if (present) {
+            MemberReader reader(*member);
+            inner(reader);
+        }
+        return *this;
+    }
+
     // A packed array: the little-endian bytes of 32-bit values as one Base64 string. The
     // decoded byte count is cut down to whole values; a member that is no string is skipped.
     template <class T>
@@ -576,6 +618,31 @@ public:
     MemberWriter& leading(const wchar_t* key, const std::array<T, N>& fields)
     {
         return array(key, fields);
+    }
+
+    template <class T, std::size_t N>
+    MemberWriter& upTo(const wchar_t* key, const std::array<T, N>& fields)
+    {
+        return array(key, fields);
+    }
+    template <class T>
+    MemberWriter& optional(const wchar_t* key, const T& field, bool present)
+    {
+        if (!present)
+            m_skipNext = true;
+        return add(key, [&] { return members_detail::writeSlot(field, m_allocator); });
+    }
+    template <class Inner>
+    MemberWriter& section(const wchar_t* key, bool present, Inner inner)
+    {
+        if (!present)
+            m_skipNext = true;
+        return add(key, [&] {
+            JsonValue object(rapidjson::kObjectType);
+            MemberWriter writer(object, m_allocator);
+            inner(writer);
+            return object;
+        });
     }
 
     // A packed array is written only when it holds values: Base64 of its little-endian bytes,
