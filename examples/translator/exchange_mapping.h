@@ -14,6 +14,7 @@
 #include "cad_model.h"
 
 #include <hrm_api/hrm_api_exchange_mechanical_pmi_sets.h>
+#include <hrm_api/hrm_api_exchange_structure.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 
 #include <cstdint>
@@ -35,8 +36,16 @@ std::wstring elementId(cad::ShapeRef::Kind kind, int index);
 // The wide text of UTF-8 (names from the file).
 std::wstring wide(const std::string& text);
 
-// An opaque colour of 0 to 255 channels from sRGB values of 0 to 1.
+// The placement as an affine matrix (rows as the placement's) and a translation.
+hrm::ExcTransformation transformationOf(const cad::Placement& placement);
+
+// A colour of 0 to 255 channels from sRGB values of 0 to 1.
 hrm::ExcColor colorOf(const cad::Rgba& color);
+
+// The product structure: a block per shape definition (a part, or an assembly of references),
+// the references with their placements, names and colours, the components at the top as root
+// references; millimetres, Z up.
+std::shared_ptr<hrm::ExcProductStructure> productStructure(const cad::Structure& structure, const std::string& file);
 
 // The picture of one part: a root node over a leaf whose mesh holds a face per B-rep face
 // (one polygon, tagged 4, per triangle) and an edge per B-rep edge. Takes the arrays over.

@@ -56,16 +56,6 @@ std::shared_ptr<hrm::ExcVisuEdge> visuEdge(cad::EdgeLine line)
     return edge;
 }
 
-std::shared_ptr<hrm::ExcTransformation> transformationOf(const cad::Placement& placement)
-{
-    auto transformation = std::make_shared<hrm::ExcTransformation>();
-    for (std::size_t row = 0; row < 3; ++row) {
-        transformation->affine()[row].set(placement.rotation[3 * row], placement.rotation[3 * row + 1], placement.rotation[3 * row + 2]);
-    }
-    transformation->translation().set(placement.translation[0], placement.translation[1], placement.translation[2]);
-    return transformation;
-}
-
 // A leaf over a part's mesh, named as the part.
 std::shared_ptr<hrm::ExcVisuNode> meshLeaf(const std::string& name, std::shared_ptr<hrm::ExcVisuMesh> mesh)
 {
@@ -83,7 +73,7 @@ std::shared_ptr<hrm::ExcVisuNode> instanceNode(const cad::Structure& structure, 
     auto node = std::make_shared<hrm::ExcVisuNode>();
     node->setType(hrm::ExcVisuNode::EType::Group);
     node->setGroupName(wide(component.name));
-    node->setTransformation(transformationOf(component.placement));
+    node->setTransformation(std::make_shared<hrm::ExcTransformation>(transformationOf(component.placement)));
     if (const std::optional<cad::Rgba>& color = component.color ? component.color : block.color) {
         auto attributes = std::make_shared<hrm::ExcVisuAttributes>();
         attributes->setColor(colorOf(*color));
@@ -112,6 +102,15 @@ std::wstring elementId(cad::ShapeRef::Kind kind, int index)
 std::wstring wide(const std::string& text)
 {
     return hrm::fromUtf8(text);
+}
+
+hrm::ExcTransformation transformationOf(const cad::Placement& placement)
+{
+    hrm::ExcTransformation transformation;
+    for (std::size_t row = 0; row < 3; ++row)
+        transformation.affine()[row].set(placement.rotation[3 * row], placement.rotation[3 * row + 1], placement.rotation[3 * row + 2]);
+    transformation.translation().set(placement.translation[0], placement.translation[1], placement.translation[2]);
+    return transformation;
 }
 
 hrm::ExcColor colorOf(const cad::Rgba& color)
