@@ -189,10 +189,16 @@ private:
                 m_received.logLines.push_back(log->message());
         } else if (auto message = std::dynamic_pointer_cast<hrm::ExcMessage>(object)) {
             m_received.messages.push_back(message->message());
+        } else if (auto structure = std::dynamic_pointer_cast<hrm::ExcProductStructure>(object)) {
+            m_received.productStructure = structure;
         } else if (auto block = std::dynamic_pointer_cast<hrm::ExcBlockVisualization>(object)) {
             m_received.blockVisualizations.push_back(block);
         } else if (auto root = std::dynamic_pointer_cast<hrm::ExcRootAssemblyVisualization>(object)) {
             m_received.rootVisualization = root;
+        } else if (auto rootMechanical = std::dynamic_pointer_cast<hrm::ExcRootMechanicalData>(object)) {
+            m_received.rootMechanicalData = rootMechanical;
+        } else if (auto blockMechanical = std::dynamic_pointer_cast<hrm::ExcBlockMechanicalData>(object)) {
+            m_received.blockMechanicalData.push_back(blockMechanical);
         }
     }
 

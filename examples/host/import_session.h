@@ -5,7 +5,9 @@
 
 #include "translator_process.h"
 
+#include <hrm_api/hrm_api_exchange_mechanical_roots.h>
 #include <hrm_api/hrm_api_exchange_object.h>
+#include <hrm_api/hrm_api_exchange_structure.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 #include <hrm_api/hrm_api_hermetor_info.h>
 
@@ -31,8 +33,11 @@ struct ImportRequest
 struct Received
 {
     hrm::HermetorInfo info;
+    std::shared_ptr<hrm::ExcProductStructure> productStructure;
     std::vector<std::shared_ptr<hrm::ExcBlockVisualization>> blockVisualizations;
     std::shared_ptr<hrm::ExcRootAssemblyVisualization> rootVisualization;
+    std::shared_ptr<hrm::ExcRootMechanicalData> rootMechanicalData;
+    std::vector<std::shared_ptr<hrm::ExcBlockMechanicalData>> blockMechanicalData;
     std::vector<std::wstring> logLines;  // warnings and notes, without the timing line
     std::vector<std::wstring> messages;
     hrm::Result result;

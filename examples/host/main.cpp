@@ -115,6 +115,7 @@ int main(int argc, char** argv)
         const auto glbStart = std::chrono::steady_clock::now();
         try {
             hrm::GltfInput input;
+            input.productStructure = received.productStructure;
             input.blockVisualizations.assign(received.blockVisualizations.begin(), received.blockVisualizations.end());
             input.rootAssemblyVisualization = received.rootVisualization;
             hrm::writeGlb(output, input);

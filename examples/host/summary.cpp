@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cinttypes>
+#include <set>
 
 namespace host {
 namespace {
@@ -60,13 +61,95 @@ Geometry geometryOf(const Received& received)
     return geometry;
 }
 
-// The part instances of the assembly: the leaves of the root visualization that name a mesh.
-std::size_t instancesOf(const hrm::ExcVisuNode& node)
+struct Structure
 {
-    std::size_t count = node.isLeaf() && node.mesh() ? 1 : 0;
-    for (const auto& child : node.childNodes())
-        count += instancesOf(*child);
+    std::size_t blocks = 0, parts = 0, instances = 0;
+};
+
+// The part instances below `reference`, each block entered at most once on a path (a cycle
+// counts nothing).
+std::size_t instancesBelow(const hrm::ExcProductStructure& structure, const hrm::ExcBlockReference& reference,
+                           std::vector<uint64_t>& path)
+{
+    const auto block = structure.getBlockById(reference.blockId());
+    if (!block || std::find(path.begin(), path.end(), reference.blockId()) != path.end())
+        return 0;
+    if (block->isPart())
+        return 1;
+    path.push_back(reference.blockId());
+    std::size_t count = 0;
+    for (const auto& child : block->blockReferences()) {
+        if (child)
+            count += instancesBelow(structure, *child, path);
+    }
+    path.pop_back();
     return count;
+}
+
+Structure structureOf(const Received& received)
+{
+    Structure counts;
+    if (!received.productStructure)
+        return counts;
+    const hrm::ExcProductStructure& structure = *received.productStructure;
+    for (const auto& block : structure.blocks()) {
+        ++counts.blocks;
+        counts.parts += block && block->isPart() ? 1 : 0;
+    }
+    std::vector<uint64_t> path;
+    for (const auto& root : structure.rootBlockReferences()) {
+        if (root)
+            counts.instances += instancesBelow(structure, *root, path);
+    }
+    return counts;
+}
+
+struct Pmi
+{
+    std::size_t datums = 0, dimensions = 0, tolerances = 0;
+    std::set<std::wstring> faces; // the faces annotations link to, by block and face id
+};
+
+template <class Annotations>
+void countLinks(const Annotations& annotations, uint64_t block, Pmi& pmi)
+{
+    for (const auto& annotation : annotations) {
+        for (const auto& element : annotation->linkedElements()) {
+            const auto& path = element ? element->fsp() : nullptr;
+            if (path && path->subentType() == hrm::ESubentType::Face)
+                pmi.faces.insert(std::to_wstring(block) + L"/" + std::to_wstring(path->subentId()));
+        }
+    }
+}
+
+void countPmi(const std::shared_ptr<hrm::ExcPMIData>& data, Pmi& pmi)
+{
+    if (!data)
+        return;
+    for (const auto& set : data->annotationSets()) {
+        if (!set)
+            continue;
+        for (const auto& view : set->views()) {
+            if (!view)
+                continue;
+            pmi.datums += view->datums().size();
+            pmi.dimensions += view->dimensions().size();
+            pmi.tolerances += view->gdts().size();
+            countLinks(view->datums(), set->blockId(), pmi);
+            countLinks(view->dimensions(), set->blockId(), pmi);
+            countLinks(view->gdts(), set->blockId(), pmi);
+        }
+    }
+}
+
+Pmi pmiOf(const Received& received)
+{
+    Pmi pmi;
+    if (received.rootMechanicalData)
+        countPmi(received.rootMechanicalData->pmiData(), pmi);
+    for (const auto& block : received.blockMechanicalData)
+        countPmi(block->pmiData(), pmi);
+    return pmi;
 }
 
 std::string translatorName(const hrm::HermetorInfo& info)
@@ -131,20 +214,20 @@ void ProgressBar::clear()
 void printSummary(std::FILE* out, const Summary& summary, const Received& received, const Traffic& traffic)
 {
     const Geometry geometry = geometryOf(received);
-    const std::size_t instances = received.rootVisualization && received.rootVisualization->visualizationData()
-        ? [&] {
-              std::size_t count = 0;
-              for (const auto& node : received.rootVisualization->visualizationData()->sceneRootNodes())
-                  count += instancesOf(*node);
-              return count;
-          }()
-        : 0;
+    const Structure structure = structureOf(received);
+    const Pmi pmi = pmiOf(received);
 
     std::fprintf(out, "%s imported by %s\n", summary.file.c_str(), translatorName(received.info).c_str());
-    std::fprintf(out, "  structure      %s parts drawn, %s instances\n", grouped(received.blockVisualizations.size()).c_str(),
-                 grouped(instances).c_str());
-    std::fprintf(out, "  geometry       %s faces, %s triangles, %s edges\n", grouped(geometry.faces).c_str(),
-                 grouped(geometry.triangles).c_str(), grouped(geometry.edges).c_str());
+    std::fprintf(out, "  structure      %s blocks (%s parts, %s assemblies), %s part instances\n", grouped(structure.blocks).c_str(),
+                 grouped(structure.parts).c_str(), grouped(structure.blocks - structure.parts).c_str(),
+                 grouped(structure.instances).c_str());
+    std::fprintf(out, "  geometry       %s faces, %s triangles, %s edges in %s part pictures\n", grouped(geometry.faces).c_str(),
+                 grouped(geometry.triangles).c_str(), grouped(geometry.edges).c_str(),
+                 grouped(received.blockVisualizations.size()).c_str());
+    if (received.rootMechanicalData || !received.blockMechanicalData.empty())
+        std::fprintf(out, "  PMI            %s datums, %s dimensions, %s geometric tolerances, linked to %s faces\n",
+                     grouped(pmi.datums).c_str(), grouped(pmi.dimensions).c_str(), grouped(pmi.tolerances).c_str(),
+                     grouped(pmi.faces.size()).c_str());
     std::fprintf(out, "  shared memory  %s objects, %s bytes, %s\n", grouped(traffic.sharedObjects).c_str(),
                  grouped(traffic.sharedBytes).c_str(),
                  traffic.sharedObjectsLeft == 0 ? "all removed" : (grouped(traffic.sharedObjectsLeft) + " left behind").c_str());

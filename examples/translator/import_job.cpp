@@ -4,6 +4,7 @@
 #include "exchange_mapping.h"
 #include "frame.h"
 
+#include <hrm_api/hrm_api_exchange_mechanical_roots.h>
 #include <hrm_api/hrm_api_format_options.h>
 
 #include <chrono>
@@ -121,6 +122,10 @@ private:
     {
         for (const cad::Block& block : structure.blocks)
             m_tally.parts += block.isAssembly ? 0 : 1;
+        const auto start = Clock::now();
+        auto object = productStructure(structure, m_settings.file);
+        m_tally.build += Clock::now() - start;
+        send(object);
         stageFinished(hrm::ExcStageFinished::EStage::ProductStructure);
     }
 
@@ -169,7 +174,23 @@ private:
         m_tally.dimensions = pmi.dimensions.size();
         m_tally.tolerances = pmi.tolerances.size();
         m_progress.checkStop();
+
+        const auto built = Clock::now();
+        PmiByOwner owners = pmiData(document.structure(), pmi);
+        auto root = std::make_shared<hrm::ExcRootMechanicalData>();
+        root->setPMIData(std::move(owners.root));
+        std::vector<std::shared_ptr<hrm::ExcBlockMechanicalData>> blocks;
+        for (auto& [block, data] : owners.blocks) {
+            auto mechanical = std::make_shared<hrm::ExcBlockMechanicalData>();
+            mechanical->setBlockId(blockId(block));
+            mechanical->setPMIData(std::move(data));
+            blocks.push_back(std::move(mechanical));
+        }
+        m_tally.build += Clock::now() - built;
+        send(root);
         stageFinished(hrm::ExcStageFinished::EStage::RootMechanical);
+        for (const auto& mechanical : blocks)
+            send(mechanical);
         stageFinished(hrm::ExcStageFinished::EStage::Mechanical);
     }
 
