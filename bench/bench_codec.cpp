@@ -9,6 +9,8 @@
 
 #include <hrm_api/hrm_api.h>
 
+#include "bench_support.h"
+
 #include <benchmark/benchmark.h>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
@@ -246,21 +248,8 @@ void Compress(benchmark::State& state)
 
 void RawDeflate(benchmark::State& state)
 {
-    const auto& binary = data().binary;
-    for (auto _ : state) {
-        z_stream stream{};
-        deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, 31, 8, Z_DEFAULT_STRATEGY);
-        std::vector<char> out(deflateBound(&stream, static_cast<uLong>(binary.size())));
-        stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(binary.data()));
-        stream.avail_in = static_cast<uInt>(binary.size());
-        stream.next_out = reinterpret_cast<Bytef*>(out.data());
-        stream.avail_out = static_cast<uInt>(out.size());
-        if (deflate(&stream, Z_FINISH) != Z_STREAM_END)
-            throw std::runtime_error("deflate failed");
-        out.resize(stream.total_out);
-        deflateEnd(&stream);
-        benchmark::DoNotOptimize(out.data());
-    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(hrm::bench::rawDeflate(data().binary).data());
     countBinaryBytes(state);
 }
 
@@ -324,20 +313,8 @@ void Decompress(benchmark::State& state)
 // Inflates into a buffer of the known result size: the best a caller can do.
 void RawInflate(benchmark::State& state)
 {
-    const auto& gzip = compressedData();
-    for (auto _ : state) {
-        z_stream stream{};
-        inflateInit2(&stream, 47);
-        std::vector<char> out(data().binary.size());
-        stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(gzip.data()));
-        stream.avail_in = static_cast<uInt>(gzip.size());
-        stream.next_out = reinterpret_cast<Bytef*>(out.data());
-        stream.avail_out = static_cast<uInt>(out.size());
-        if (inflate(&stream, Z_FINISH) != Z_STREAM_END)
-            throw std::runtime_error("inflate failed");
-        inflateEnd(&stream);
-        benchmark::DoNotOptimize(out.data());
-    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(hrm::bench::rawInflate(compressedData(), data().binary.size()).data());
     countBinaryBytes(state);
 }
 

@@ -19,6 +19,7 @@
 
 #include <hrm_api/hrm_api.h>
 
+#include "bench_support.h"
 #include "visualization_sample.h"
 
 #include <benchmark/benchmark.h>
@@ -157,19 +158,8 @@ void Deflate(benchmark::State& state)
 void RawDeflate(benchmark::State& state)
 {
     const Data& d = data(triangles(state));
-    for (auto _ : state) {
-        z_stream stream{};
-        deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, 31, 8, Z_DEFAULT_STRATEGY);
-        std::vector<char> out(deflateBound(&stream, static_cast<uLong>(d.binary.size())));
-        stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(d.binary.data()));
-        stream.avail_in = static_cast<uInt>(d.binary.size());
-        stream.next_out = reinterpret_cast<Bytef*>(out.data());
-        stream.avail_out = static_cast<uInt>(out.size());
-        if (deflate(&stream, Z_FINISH) != Z_STREAM_END)
-            throw std::runtime_error("deflate failed");
-        deflateEnd(&stream);
-        benchmark::DoNotOptimize(out.data());
-    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(hrm::bench::rawDeflate(d.binary).data());
     describe(state);
 }
 
@@ -213,19 +203,8 @@ void Inflate(benchmark::State& state)
 void RawInflate(benchmark::State& state)
 {
     const Data& d = data(triangles(state));
-    for (auto _ : state) {
-        z_stream stream{};
-        inflateInit2(&stream, 47);
-        std::vector<char> out(d.binary.size());
-        stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(d.gzip.data()));
-        stream.avail_in = static_cast<uInt>(d.gzip.size());
-        stream.next_out = reinterpret_cast<Bytef*>(out.data());
-        stream.avail_out = static_cast<uInt>(out.size());
-        if (inflate(&stream, Z_FINISH) != Z_STREAM_END)
-            throw std::runtime_error("inflate failed");
-        inflateEnd(&stream);
-        benchmark::DoNotOptimize(out.data());
-    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(hrm::bench::rawInflate(d.gzip, d.binary.size()).data());
     describe(state);
 }
 
@@ -253,25 +232,8 @@ void ReadObject(benchmark::State& state)
     describe(state);
 }
 
-// The envelope of `object`; its buffer stays for the reader.
-std::wstring envelope(const std::shared_ptr<hrm::IExchangeObject>& object)
-{
-    hrm::ExchangeObjectWrapper wrapper;
-    wrapper.set(object);
-    std::wostringstream out;
-    wrapper.writeObject(out);
-    return out.str();
-}
-
-// The object an envelope announces, loaded; the buffer is removed when `remove`.
-std::shared_ptr<hrm::IExchangeObject> loaded(const std::wstring& text, bool remove)
-{
-    hrm::ExchangeObjectWrapper wrapper;
-    wrapper.setRemoveAfterLoading(remove);
-    std::wistringstream in(text);
-    wrapper.readObject(in);
-    return wrapper.get();
-}
+using hrm::bench::envelope;
+using hrm::bench::loaded;
 
 void WrapperWrite(benchmark::State& state)
 {

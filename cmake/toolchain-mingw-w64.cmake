@@ -26,11 +26,11 @@ set(ZLIB_USE_STATIC_LIBS ON)
 
 get_property(HRM_IN_TRY_COMPILE GLOBAL PROPERTY IN_TRY_COMPILE)
 if(NOT HRM_IN_TRY_COMPILE)
-    # RapidJSON and the parts of Boost we use are header-only and the same for every target,
+    # RapidJSON, CLI11 and the parts of Boost we use are header-only and the same for every target,
     # so the Linux copies serve; they are staged in a folder of their own, because putting all
     # of /usr/include on the include path would pull Linux system headers into the build.
     set(HRM_HOST_HEADERS ${CMAKE_BINARY_DIR}/host-headers)
-    foreach(library rapidjson boost)
+    foreach(library rapidjson boost CLI)
         if(NOT EXISTS ${HRM_HOST_HEADERS}/${library})
             file(MAKE_DIRECTORY ${HRM_HOST_HEADERS})
             file(CREATE_LINK /usr/include/${library} ${HRM_HOST_HEADERS}/${library} SYMBOLIC)
@@ -38,6 +38,7 @@ if(NOT HRM_IN_TRY_COMPILE)
     endforeach()
     set(RAPIDJSON_INCLUDE_DIR ${HRM_HOST_HEADERS} CACHE PATH "RapidJSON headers")
     set(Boost_INCLUDE_DIR ${HRM_HOST_HEADERS} CACHE PATH "Boost headers")
+    set(CLI11_INCLUDE_DIR ${HRM_HOST_HEADERS} CACHE PATH "CLI11 headers (the hrm tool)")
     set(Boost_NO_BOOST_CMAKE ON)
 
     # Windows executables (also those that gtest_discover_tests lists at build time) run

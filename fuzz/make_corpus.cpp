@@ -14,6 +14,7 @@
 #include <hrm_api/hrm_api_json_binary.h>
 
 #include <cctype>
+#include "structure_sample.h"
 #include "visualization_sample.h"
 
 #include <cstdint>
@@ -247,6 +248,9 @@ void envelopes()
     // Both visualization roots, with one object of every class of their family.
     saveBinary("block_visualization", *samples::full::block());
     saveBinary("root_assembly_visualization", *samples::full::assembly());
+    // Product structures: one object of every class of the family, and a small assembly.
+    saveBinary("product_structure", *samples::full::productStructure());
+    saveBinary("assembly", *samples::productStructure(12, 40));
 
     // Buffer names a reader must neither load nor remove, each beside a payload that the
     // buffer of the right name holds: capitals, a NUL, a lone surrogate, a path, a device, a
@@ -280,6 +284,37 @@ void envelopes()
              '\0' + bytesOf(gzip));
 }
 
+// The glTF target's seeds: binary JSON of block visualizations, one of every class of the family
+// and a small mesh of a quad and a triangle with an edge.
+void gltf()
+{
+    auto seed = [](const std::string& name, const IJsonObject& object) {
+        JsonDocument document;
+        object.writeObject(document, document.GetAllocator());
+        std::vector<char> bytes;
+        JsonBinaryIO::encode(document, bytes);
+        save("gltf", name + ".bin", bytesOf(bytes));
+    };
+    seed("full", *samples::full::block());
+
+    auto face = std::make_shared<ExcVisuFace>();
+    face->setVertices({0, 0, 0, 1, 0, 0, 1, 1, 0, 0, 1, 0, 0.5f, 1.5f, 0});
+    face->setNormals({0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1});
+    face->setPolygons({{4, {0, 1, 2, 3}}, {3, {3, 2, 4}}});
+    face->setColor(ExcColor(200, 120, 40));
+    auto mesh = std::make_shared<ExcVisuMesh>();
+    mesh->addFace(face);
+    mesh->addEdge(samples::visuEdge({0, 0, 0, 1, 0, 0, 1, 1, 0}, 0));
+    auto node = std::make_shared<ExcVisuNode>();
+    node->setMesh(mesh);
+    node->setTransformation(std::make_shared<ExcTransformation>());
+    auto data = std::make_shared<ExcVisualizationData>();
+    data->addSceneRootNode(node);
+    ExcBlockVisualization block;
+    block.setVisualizationData(data);
+    seed("mesh", block);
+}
+
 void results()
 {
     Result result;
@@ -305,5 +340,6 @@ int main(int argc, char** argv)
     base64();
     envelopes();
     results();
+    gltf();
     return 0;
 }

@@ -16,6 +16,7 @@
 #include <hrm_api/hrm_api_exchange_common.h>
 #include <hrm_api/hrm_api_exchange_common_entity.h>
 #include <hrm_api/hrm_api_exchange_object.h>
+#include <hrm_api/hrm_api_exchange_structure.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 #include <hrm_api/hrm_api_exchange_visualization_attributes.h>
 #include <hrm_api/hrm_api_exchange_mechanical_pmi.h>

@@ -196,6 +196,11 @@ public:
     // object.
     void readObject(std::wistream& in) override;
 
+    // Whether `name` has the form of the buffer names writers make (a canonical UUID: 36
+    // characters of lowercase hexadecimal digits in 8-4-4-4-12 groups): the only names a reader
+    // loads or removes.
+    static bool isBufferName(const std::wstring& name);
+
 private:
     void discard(const std::wstring& buffer) const;
 

@@ -138,22 +138,6 @@ mp::SharedBuffer<char> writeToSharedMemory(const IExchangeObject& object, JsonAl
     return buffer;
 }
 
-// Whether `name` has the form of the buffer names writers make: a canonical UUID, 36
-// characters of lowercase hexadecimal digits in 8-4-4-4-12 groups. Such a name means the same
-// object on every platform (Windows would take "ABC" and "abc" for one).
-bool isBufferName(const std::wstring& name)
-{
-    if (name.size() != 36)
-        return false;
-    for (size_t i = 0; i < name.size(); ++i) {
-        const wchar_t ch = name[i];
-        const bool hyphen = i == 8 || i == 13 || i == 18 || i == 23;
-        if (hyphen ? ch != L'-' : !((ch >= L'0' && ch <= L'9') || (ch >= L'a' && ch <= L'f')))
-            return false;
-    }
-    return true;
-}
-
 void failedWrite()
 {
     throw std::runtime_error("Cannot write object into json document");
@@ -232,6 +216,21 @@ void ExchangeObjectWrapper::readObject(std::wistream& in)
     m_pObject->setRemoveSourceAfterLoading(m_removeAfterLoading);
     if (!m_delayedLoading)
         m_pObject->load();
+}
+
+// Such a name means the same object on every platform (Windows would take "ABC" and "abc" for
+// one).
+bool ExchangeObjectWrapper::isBufferName(const std::wstring& name)
+{
+    if (name.size() != 36)
+        return false;
+    for (size_t i = 0; i < name.size(); ++i) {
+        const wchar_t ch = name[i];
+        const bool hyphen = i == 8 || i == 13 || i == 18 || i == 23;
+        if (hyphen ? ch != L'-' : !((ch >= L'0' && ch <= L'9') || (ch >= L'a' && ch <= L'f')))
+            return false;
+    }
+    return true;
 }
 
 // Removes an announced buffer that this reader will not load, if removal is on and the buffer

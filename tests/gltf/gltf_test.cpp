@@ -5,6 +5,11 @@
 
 #include "visualization_sample.h"
 
+#if __has_include(<hrm_api/hrm_api_exchange_structure.h>)
+#include <hrm_api/hrm_api_exchange_structure.h>
+#define HRM_TEST_STRUCTURE 1
+#endif
+
 #include <gtest/gtest.h>
 #include <tiny_gltf.h>
 
@@ -240,6 +245,76 @@ TEST(GltfExport, EmptyInputAndTheFullSample)
     ASSERT_FALSE(progress.empty());
     EXPECT_EQ(progress.back(), 1.0);
 }
+
+#if HRM_TEST_STRUCTURE
+std::shared_ptr<ExcBlockReference> referenceTo(uint64_t block, double x, double turn = 0)
+{
+    auto reference = std::make_shared<ExcBlockReference>();
+    reference->setBlockId(block);
+    reference->setName(L"instance \u00e9");
+    ExcTransformation transformation;
+    transformation.affine()[0] = ExcVector3d(std::cos(turn), -std::sin(turn), 0);
+    transformation.affine()[1] = ExcVector3d(std::sin(turn), std::cos(turn), 0);
+    transformation.translation() = ExcVector3d(x, 0, 0);
+    reference->setTransformation(transformation);
+    return reference;
+}
+
+// Block 2, an assembly, places block 1 twice; hidden, suppressed and cyclic references are left
+// out. Written as structure.glb, which the browser check expects to show two copies.
+TEST(GltfExport, BlockReferencesPlaceSharedMeshes)
+{
+    auto part = std::make_shared<ExcBlock>();
+    part->setId(1);
+    part->setPart(true);
+    auto assembly = std::make_shared<ExcBlock>();
+    assembly->setId(2);
+    assembly->addBlockReference(referenceTo(1, 0));
+    assembly->addBlockReference(referenceTo(1, 250, 1.0));
+    auto hidden = referenceTo(1, 500);
+    hidden->setHidden(true);
+    assembly->addBlockReference(hidden);
+    auto suppressed = referenceTo(1, 750);
+    suppressed->setSuppressed(true);
+    assembly->addBlockReference(suppressed);
+    assembly->addBlockReference(referenceTo(2, 1000)); // a cycle
+    auto structure = std::make_shared<ExcProductStructure>();
+    structure->setUnits(ELengthUnitType::Centimeter);
+    structure->setWorldOrientation(EWorldOrientation::UpY);
+    structure->addBlock(part);
+    structure->addBlock(assembly);
+    structure->addRootBlockReference(referenceTo(2, 0));
+
+    GltfInput input = blocks({samples::blockVisualization(20000)});
+    input.productStructure = structure;
+    const auto model = exported("structure", input);
+    const auto& root = model.nodes[model.scenes[0].nodes[0]];
+    EXPECT_TRUE(root.rotation.empty()); // Y up already
+    ASSERT_EQ(root.children.size(), 1u);
+    const auto& top = model.nodes[root.children[0]];
+    EXPECT_EQ(top.name, "instance \xC3\xA9");
+    ASSERT_EQ(top.children.size(), 2u);
+    const auto& second = model.nodes[top.children[1]];
+    EXPECT_EQ(second.translation, (std::vector<double>{2.5, 0, 0})); // 250 cm
+    EXPECT_NEAR(second.rotation[2], std::sin(0.5), 1e-12);
+    std::vector<int> meshes;
+    for (int instance : top.children) {
+        const auto& picture = model.nodes[model.nodes[instance].children.at(0)];
+        EXPECT_EQ(picture.scale[0], 1e-3);
+        meshes.push_back(model.nodes[model.nodes[picture.children.at(0)].children.at(0)].mesh); // root, leaf
+    }
+    EXPECT_EQ(meshes[0], meshes[1]);
+    EXPECT_EQ(model.meshes.size(), 1u);
+
+    GltfOptions keep;
+    keep.keepHidden = true;
+    const auto kept = exported("structure_hidden", input, keep);
+    EXPECT_EQ(kept.nodes[kept.nodes[kept.scenes[0].nodes[0]].children.at(0)].children.size(), 3u);
+    GltfOptions few;
+    few.maxNodes = 5;
+    EXPECT_THROW(toGlb(input, few), std::length_error);
+}
+#endif
 
 } // namespace
 } // namespace hrm

@@ -86,8 +86,9 @@ struct GltfOptions
     bool lines = true;
     // The most nodes the scene may have; instancing a deep structure beyond it throws
     // std::length_error("glTF export: too many nodes"), so that a hostile structure (a chain of
-    // blocks each placed twice in the next) cannot ask for billions of nodes.
-    std::size_t maxNodes = 10'000'000;
+    // blocks each placed twice in the next) cannot ask for billions of nodes. A node costs about
+    // 600 bytes while the scene is built: the default allows some 1.2 GB.
+    std::size_t maxNodes = 2'000'000;
     // Called now and then with the share of the work done (0 to 1).
     std::function<void(double done)> progress;
 };
