@@ -137,6 +137,32 @@ TEST(ExchangeObjectWrapper, BinaryObjectsTravelInSharedMemory)
     EXPECT_TRUE(Buffer::remove(second));
 }
 
+TEST(ExchangeObjectWrapper, TheEnvelopeInOneCallAndTypedAccess)
+{
+    const ExcMessage message(L"hi");
+    std::wstring created = L"stale";
+    EXPECT_EQ(toEnvelope(message, &created), envelopeOf(std::make_shared<ExcMessage>(message)));
+    EXPECT_TRUE(created.empty());
+    const ExchangeObjectWrapper inlineRead = fromEnvelope(toEnvelope(message));
+    EXPECT_EQ(*inlineRead.get<ExcMessage>(), message);
+    EXPECT_TRUE(inlineRead.get<ExcMessageBase>()); // a base class of the object's is its type too
+    EXPECT_FALSE(inlineRead.get<ExcLog>());         // a sibling class is not
+    EXPECT_FALSE(inlineRead.get<BinaryObject>());
+    EXPECT_FALSE(fromEnvelope(LR"({"exchange_object_name":"no_such_type","exchange_object_data":{}})")
+                     .get<ExcMessage>());
+
+    // A binary object: the writer learns the buffer's name, the reader loads and removes it.
+    const auto written = test::filledBinaryObject(true);
+    const std::wstring envelope = toEnvelope(*written, &created);
+    EXPECT_EQ(created, sourceOf(envelope));
+    const auto read = fromEnvelope(envelope).get<BinaryObject>();
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(read->isLoaded());
+    EXPECT_EQ(*read, *written);
+    EXPECT_FALSE(Buffer::remove(created));
+    test::expectMessage<std::invalid_argument>([] { fromEnvelope(L"[]"); }, "Invalid json document");
+}
+
 TEST(ExchangeObjectWrapper, PayloadsAreCompressedAsTheLibraryIsSet)
 {
     // The payload a wrapper writes under `compression`, and the object a default reader loads.

@@ -14,6 +14,7 @@
 #include <stdexcept>
 #include <string>
 #include <tuple>
+#include <type_traits>
 #include <vector>
 
 namespace hrm {
@@ -335,7 +336,7 @@ TEST(ImportOptions, ReadingFormatOptionsIsForgiving)
         LR"({"operation_type":"import","format_type":"STEP","visu_pmi_mode":"none"}]})"));
     EXPECT_FALSE(options.forceMPMode());
     EXPECT_EQ(options.modelerVersion(), 31);
-    const auto step = std::dynamic_pointer_cast<imp::OptionsSTEP>(options.formatOptions(EFormatType::STEP));
+    const auto step = options.formatOptions<imp::OptionsSTEP>();
     ASSERT_TRUE(step);
     EXPECT_EQ(step->visuPMIMode(), EVisuPMIProcessingMode::None);
     EXPECT_EQ(log.messages(ax_herm::Info), Messages{"FormatOptions: No options for given import format."});
@@ -344,6 +345,32 @@ TEST(ImportOptions, ReadingFormatOptionsIsForgiving)
     // A "format_options" that is no array leaves the stored objects.
     options.readObject(parse(LR"({"file":"b.stp","format_options":{}})"));
     EXPECT_EQ(options.formatOptions(EFormatType::STEP), step);
+}
+
+TEST(ImportOptions, TypedAccessToFormatOptions)
+{
+    ImportOptionsImpl options;
+    EXPECT_FALSE(options.formatOptions<imp::OptionsSTEP>());
+    const auto step = std::make_shared<imp::OptionsSTEP>();
+    options.setFormatOptions(step);
+    options.setFormatOptions(std::make_shared<exp::OptionsIGES>()); // the class is not checked on storing
+    EXPECT_EQ(options.formatOptions<imp::OptionsSTEP>(), step);
+    EXPECT_FALSE(options.formatOptions<exp::OptionsSTEP>()); // the same format, the other direction
+    EXPECT_FALSE(options.formatOptions<imp::OptionsIGES>());
+    EXPECT_TRUE(options.formatOptions<exp::OptionsIGES>());
+
+    // Read-only options hand out read-only objects.
+    const ImportOptions& readOnly = options;
+    static_assert(std::is_same_v<decltype(readOnly.formatOptions<imp::OptionsSTEP>()),
+                                 std::shared_ptr<const imp::OptionsSTEP>>);
+    static_assert(std::is_same_v<decltype(readOnly.formatOptions(EFormatType::STEP)),
+                                 std::shared_ptr<const IFormatOptions>>);
+    EXPECT_EQ(readOnly.formatOptions<imp::OptionsSTEP>(), step);
+
+    ExportOptionsImpl exported;
+    exported.setFormatOptions(std::make_shared<exp::OptionsSTEP>());
+    EXPECT_TRUE(exported.formatOptions<exp::OptionsSTEP>());
+    EXPECT_FALSE(exported.formatOptions<imp::OptionsSTEP>());
 }
 
 TEST(ImportOptions, FileAndVersionAreLoggedAtTheDebugLevel)

@@ -1,9 +1,10 @@
 #pragma once
 
-// Enumerations of units, orientation, operation and file format, with their string forms
-// (enumToString / enumFromString, hrm_api_enum.h). The numbers are part of the format.
-// The option enumerations are in hrm_api_enums_options.h, hrm_api_enums_export.h and
-// hrm_api_enums_legacy.h.
+/// @file
+/// Enumerations of units, orientation, operation and file format, with their string forms
+/// (enumToString / enumFromString, hrm_api_enum.h). The numbers are part of the format.
+/// The option enumerations are in hrm_api_enums_options.h, hrm_api_enums_export.h and
+/// hrm_api_enums_legacy.h.
 
 #include <hrm_api/hrm_api_enum.h>
 
@@ -11,6 +12,7 @@
 
 namespace hrm {
 
+/// A unit of length. Travels as a word ("millimeter", "inch", ...).
 enum class HRM_API_TYPE ELengthUnitType : int32_t
 {
     Unknown = 0,
@@ -29,7 +31,7 @@ enum class HRM_API_TYPE ELengthUnitType : int32_t
     MicroInch = 13,
 };
 
-// Value 2 has no unit (and no string).
+/// Value 2 has no unit (and no string).
 enum class HRM_API_TYPE EMassUnitType : int32_t
 {
     Unknown = 0,
@@ -44,6 +46,7 @@ enum class HRM_API_TYPE EMassUnitType : int32_t
     LbfSec2PerInch = 10,
 };
 
+/// A unit of time.
 enum class HRM_API_TYPE ETimeUnitType : int32_t
 {
     Unknown = 0,
@@ -57,6 +60,7 @@ enum class HRM_API_TYPE ETimeUnitType : int32_t
     Day = 8,
 };
 
+/// A unit of temperature.
 enum class HRM_API_TYPE ETemperatureUnitType : int32_t
 {
     Unknown = 0,
@@ -66,6 +70,7 @@ enum class HRM_API_TYPE ETemperatureUnitType : int32_t
     Kelvin = 4,
 };
 
+/// Which axis of a model points up.
 enum class HRM_API_TYPE EWorldOrientation : int32_t
 {
     Unknown = 0,
@@ -74,7 +79,7 @@ enum class HRM_API_TYPE EWorldOrientation : int32_t
     UpZ = 3,
 };
 
-// What a format options object is for: options shared by every direction, import or export.
+/// What a format options object is for: options shared by every direction, import or export.
 enum class HRM_API_TYPE EOperationType : int32_t
 {
     Options = 0,
@@ -82,7 +87,7 @@ enum class HRM_API_TYPE EOperationType : int32_t
     Export = 2,
 };
 
-// The file format of a format options object; also the formats a translator announces.
+/// The file format of a format options object; also the formats a translator announces.
 enum class HRM_API_TYPE EFormatType : int32_t
 {
     Unknown = 0,

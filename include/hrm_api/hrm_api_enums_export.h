@@ -1,7 +1,8 @@
 #pragma once
 
-// Enumerations of the export options, with their string forms (enumToString /
-// enumFromString). The numbers are part of the format.
+/// @file
+/// Enumerations of the export options, with their string forms (enumToString /
+/// enumFromString). The numbers are part of the format.
 
 #include <hrm_api/hrm_api_enum.h>
 
@@ -9,6 +10,7 @@
 
 namespace hrm {
 
+/// Where the names of exported layers come from.
 enum class HRM_API_TYPE ELayerNameProcessingModeType : int32_t
 {
     Unknown = 0,
@@ -16,7 +18,7 @@ enum class HRM_API_TYPE ELayerNameProcessingModeType : int32_t
     SavedVisuRep = 2,
 };
 
-// Value 1 travels as the word "false".
+/// Value 1 travels as the word "false".
 enum class HRM_API_TYPE EDefaultColorMode : int32_t
 {
     Unknown = 0,
@@ -24,6 +26,7 @@ enum class HRM_API_TYPE EDefaultColorMode : int32_t
     CatiaV5 = 2,
 };
 
+/// Whether graphical PMI is written into a container.
 enum class HRM_API_TYPE EGraphicalPMIContainerMode : int32_t
 {
     Unknown = 0,
@@ -31,6 +34,7 @@ enum class HRM_API_TYPE EGraphicalPMIContainerMode : int32_t
     False = 2,
 };
 
+/// Which curves of an edge are written.
 enum class HRM_API_TYPE EEdgeCurveMode : int32_t
 {
     Unknown = 0,
@@ -38,6 +42,7 @@ enum class HRM_API_TYPE EEdgeCurveMode : int32_t
     Curves2d = 2,
 };
 
+/// The application the written CGR file is to be compatible with.
 enum class HRM_API_TYPE EExportCgrCompatibilityMode : int32_t
 {
     Unknown = 0,
@@ -45,6 +50,7 @@ enum class HRM_API_TYPE EExportCgrCompatibilityMode : int32_t
     Catia3DExperience = 2,
 };
 
+/// Whether the file is written as text or as binary.
 enum class HRM_API_TYPE EExportSaveMode : int32_t
 {
     Unknown = 0,
@@ -52,6 +58,7 @@ enum class HRM_API_TYPE EExportSaveMode : int32_t
     BinaryLE = 2,
 };
 
+/// The STEP application protocol to write.
 enum class HRM_API_TYPE EExportVersionStep : int32_t
 {
     Unknown = 0,
@@ -60,6 +67,7 @@ enum class HRM_API_TYPE EExportVersionStep : int32_t
     AP242 = 3,
 };
 
+/// The CATIA V4 version to write.
 enum class HRM_API_TYPE EExportVersionCatiaV4 : int32_t
 {
     Unknown = 0,
@@ -73,6 +81,7 @@ enum class HRM_API_TYPE EExportVersionCatiaV4 : int32_t
 
 // Versions of the exported file; each starts with Unknown and Current.
 
+/// The ACIS version to write.
 enum class HRM_API_TYPE EExportVersionAcis : int32_t
 {
     Unknown = 0,
@@ -93,6 +102,7 @@ enum class HRM_API_TYPE EExportVersionAcis : int32_t
     V2021_1_0 = 15,
 };
 
+/// The Parasolid version to write.
 enum class HRM_API_TYPE EExportVersionParasolid : int32_t
 {
     Unknown = 0,
@@ -121,6 +131,7 @@ enum class HRM_API_TYPE EExportVersionParasolid : int32_t
     R33 = 23,
 };
 
+/// The CATIA V5 version to write.
 enum class HRM_API_TYPE EExportVersionCatiaV5 : int32_t
 {
     Unknown = 0,
@@ -143,6 +154,7 @@ enum class HRM_API_TYPE EExportVersionCatiaV5 : int32_t
     V5_6R2021 = 17,
 };
 
+/// The XCGM version to write.
 enum class HRM_API_TYPE EExportVersionXCGM : int32_t
 {
     Unknown = 0,

@@ -1,7 +1,8 @@
 #pragma once
 
-// Enumerations of the legacy import and export options, with their string forms
-// (enumToString / enumFromString). The numbers are part of the format.
+/// @file
+/// Enumerations of the legacy import and export options, with their string forms
+/// (enumToString / enumFromString). The numbers are part of the format.
 
 #include <hrm_api/hrm_api_enum.h>
 
@@ -9,7 +10,7 @@
 
 namespace hrm {
 
-// Units of "ins_units_def_source" and "ins_units_def_target".
+/// Units of "ins_units_def_source" and "ins_units_def_target".
 enum class HRM_API_TYPE ELegacyInsertionUnits : int32_t
 {
     Undefined = 0,
@@ -39,6 +40,7 @@ enum class HRM_API_TYPE ELegacyInsertionUnits : int32_t
     USSurveyMil = 24,
 };
 
+/// How PMI is imported through the legacy interface.
 enum class HRM_API_TYPE ELegacyPMIMode : int32_t
 {
     None = 0,
@@ -46,6 +48,7 @@ enum class HRM_API_TYPE ELegacyPMIMode : int32_t
     Semantic = 2,
 };
 
+/// How the product structure is imported through the legacy interface.
 enum class HRM_API_TYPE ELegacyProductStructureMode : int32_t
 {
     None = 0,
@@ -53,6 +56,7 @@ enum class HRM_API_TYPE ELegacyProductStructureMode : int32_t
     AsMechanicalComponents = 2,
 };
 
+/// How colours are matched through the legacy interface.
 enum class HRM_API_TYPE ELegacyColorsMode : int32_t
 {
     RGB = 0,
@@ -60,8 +64,8 @@ enum class HRM_API_TYPE ELegacyColorsMode : int32_t
     MatchingIndex = 1,
 };
 
-// Hidden parts on import: skipped, imported hidden, or imported shown. An unknown word reads
-// as DoNotImport, an unknown value writes "import_hide".
+/// Hidden parts on import: skipped, imported hidden, or imported shown. An unknown word reads
+/// as DoNotImport, an unknown value writes "import_hide".
 enum class HRM_API_TYPE ELegacyHiddenPartsImportMode : int32_t
 {
     DoNotImport = 2,
@@ -69,7 +73,7 @@ enum class HRM_API_TYPE ELegacyHiddenPartsImportMode : int32_t
     ImportShow = 1,
 };
 
-// The export counterpart, numbered like the import one.
+/// The export counterpart, numbered like the import one.
 enum class HRM_API_TYPE ELegacyHiddenComponentsExportMode : int32_t
 {
     DoNotExport = 2,

@@ -1,7 +1,8 @@
 #pragma once
 
-// Enumerations of the format options shared by import and export and of the import options,
-// with their string forms (enumToString / enumFromString). The numbers are part of the format.
+/// @file
+/// Enumerations of the format options shared by import and export and of the import options,
+/// with their string forms (enumToString / enumFromString). The numbers are part of the format.
 
 #include <hrm_api/hrm_api_enum.h>
 
@@ -11,6 +12,7 @@ namespace hrm {
 
 // Options shared by import and export (general, graphical, mechanical, modeler)
 
+/// How much the translator logs, from nothing to everything.
 enum class HRM_API_TYPE ELogEventLevelType : int32_t
 {
     Unknown = 0,
@@ -22,6 +24,7 @@ enum class HRM_API_TYPE ELogEventLevelType : int32_t
     Verbose = 6,
 };
 
+/// The character encoding of the translator's log file.
 enum class HRM_API_TYPE ELogFileEncodingType : int32_t
 {
     Unknown = 0,
@@ -31,6 +34,7 @@ enum class HRM_API_TYPE ELogFileEncodingType : int32_t
     Utf16 = 4,
 };
 
+/// Whether the translator's log file is written anew or appended to.
 enum class HRM_API_TYPE ELoggingModeType : int32_t
 {
     Unknown = 0,
@@ -38,8 +42,8 @@ enum class HRM_API_TYPE ELoggingModeType : int32_t
     Append = 2,
 };
 
-// Which translated data is kept in memory: a combination of the Keep flags, or Unknown. Only
-// the listed values have a word, so a combination such as 6 is written as "keep_none".
+/// Which translated data is kept in memory: a combination of the Keep flags, or Unknown. Only
+/// the listed values have a word, so a combination such as 6 is written as "keep_none".
 enum class HRM_API_TYPE EMemoryManagementModeFlags : int32_t
 {
     Unknown = 255,
@@ -50,6 +54,7 @@ enum class HRM_API_TYPE EMemoryManagementModeFlags : int32_t
     KeepAsmMech = 8,
 };
 
+/// Whether reference geometry (planes, axes) is shown.
 enum class HRM_API_TYPE ETranslateReferenceGeometryMode : int32_t
 {
     Unknown = 0,
@@ -57,6 +62,7 @@ enum class HRM_API_TYPE ETranslateReferenceGeometryMode : int32_t
     False = 2,
 };
 
+/// When bodies are tessellated for display.
 enum class HRM_API_TYPE EVisuBRepTessellationModeType : int32_t
 {
     Unknown = 0,
@@ -65,6 +71,7 @@ enum class HRM_API_TYPE EVisuBRepTessellationModeType : int32_t
     NeverAtLeastNativePMI = 3,
 };
 
+/// Whether texts are shown as strings or as strokes.
 enum class HRM_API_TYPE EVisuTextDataMode : int32_t
 {
     Unknown = 0,
@@ -72,6 +79,7 @@ enum class HRM_API_TYPE EVisuTextDataMode : int32_t
     AsStroked = 2,
 };
 
+/// Where the strokes of stroked texts come from.
 enum class HRM_API_TYPE EVisuTextStrokingMode : int32_t
 {
     Unknown = 0,
@@ -82,6 +90,7 @@ enum class HRM_API_TYPE EVisuTextStrokingMode : int32_t
     FromIop = 5,
 };
 
+/// Whether feature tolerances are translated.
 enum class HRM_API_TYPE EFeatureToleranceProcessingModeType : int32_t
 {
     Unknown = 0,
@@ -89,6 +98,7 @@ enum class HRM_API_TYPE EFeatureToleranceProcessingModeType : int32_t
     None = 2,
 };
 
+/// Whether miscellaneous data (properties and the like) is translated.
 enum class HRM_API_TYPE EMiscDataProcessingModeType : int32_t
 {
     Unknown = 0,
@@ -96,6 +106,7 @@ enum class HRM_API_TYPE EMiscDataProcessingModeType : int32_t
     None = 2,
 };
 
+/// Which spline surfaces the solid modeler fits anew.
 enum class HRM_API_TYPE EAcisSplineResurfacingModeType : int32_t
 {
     Unknown = 0,
@@ -104,6 +115,7 @@ enum class HRM_API_TYPE EAcisSplineResurfacingModeType : int32_t
     ErroneousAndShortSurfaces = 3,
 };
 
+/// Whether the source's attributes are translated.
 enum class HRM_API_TYPE EAttributeProcessingModeType : int32_t
 {
     Unknown = 0,
@@ -111,6 +123,7 @@ enum class HRM_API_TYPE EAttributeProcessingModeType : int32_t
     None = 2,
 };
 
+/// How much the solid modeler heals the translated bodies.
 enum class HRM_API_TYPE EAcisHealType : int32_t
 {
     Unknown = 0,
@@ -119,6 +132,7 @@ enum class HRM_API_TYPE EAcisHealType : int32_t
     Standard = 3,
 };
 
+/// Whether manufacturing data is kept on the bodies as attributes.
 enum class HRM_API_TYPE EPreserveMfgModeType : int32_t
 {
     Unknown = 0,
@@ -126,6 +140,7 @@ enum class HRM_API_TYPE EPreserveMfgModeType : int32_t
     DecorateAllMfg = 2,
 };
 
+/// Whether the links between the model and its data are kept on the bodies as attributes.
 enum class HRM_API_TYPE EPreserveModelAssociativityModeType : int32_t
 {
     Unknown = 0,
@@ -133,6 +148,7 @@ enum class HRM_API_TYPE EPreserveModelAssociativityModeType : int32_t
     DecorateAll = 2,
 };
 
+/// Whether PMI is kept on the bodies as attributes.
 enum class HRM_API_TYPE EPreservePMIModeType : int32_t
 {
     Unknown = 0,
@@ -140,6 +156,7 @@ enum class HRM_API_TYPE EPreservePMIModeType : int32_t
     DecorateAllPMI = 2,
 };
 
+/// Whether the topological entity inspector runs.
 enum class HRM_API_TYPE ETopologicalEntityInspectorModeType : int32_t
 {
     Unknown = 0,
@@ -149,6 +166,7 @@ enum class HRM_API_TYPE ETopologicalEntityInspectorModeType : int32_t
 
 // Import options
 
+/// Whether PMI is translated for display.
 enum class HRM_API_TYPE EVisuPMIProcessingMode : int32_t
 {
     Unknown = 0,
@@ -156,6 +174,7 @@ enum class HRM_API_TYPE EVisuPMIProcessingMode : int32_t
     None = 2,
 };
 
+/// Which entities of the file are imported: the root ones only, or all.
 enum class HRM_API_TYPE EImportEntities : int32_t
 {
     Unknown = 0,
@@ -163,6 +182,7 @@ enum class HRM_API_TYPE EImportEntities : int32_t
     RootAndNonRoot = 2,
 };
 
+/// Which hidden entities are translated.
 enum class HRM_API_TYPE ETranslateHiddenEntitiesModeType : int32_t
 {
     Unknown = 0,
@@ -171,6 +191,7 @@ enum class HRM_API_TYPE ETranslateHiddenEntitiesModeType : int32_t
     OnlyWithVisibleLinks = 3,
 };
 
+/// Where the files of an assembly's parts are looked for first.
 enum class HRM_API_TYPE EAssemblyPathPrefType : int32_t
 {
     Unknown = 0,
@@ -179,6 +200,7 @@ enum class HRM_API_TYPE EAssemblyPathPrefType : int32_t
     RootFolderFirst = 3,
 };
 
+/// Whether the part's "in work object" is processed.
 enum class HRM_API_TYPE EProcessInWorkObjectModeType : int32_t
 {
     Unknown = 0,
@@ -186,6 +208,7 @@ enum class HRM_API_TYPE EProcessInWorkObjectModeType : int32_t
     False = 2,
 };
 
+/// Whether entities get short or long names.
 enum class HRM_API_TYPE ENameProcessingModeType : int32_t
 {
     Unknown = 0,
@@ -193,6 +216,7 @@ enum class HRM_API_TYPE ENameProcessingModeType : int32_t
     LongNames = 2,
 };
 
+/// Whether the assembly's unfolded view is translated.
 enum class HRM_API_TYPE EAssemblyUnfoldedViewMode : int32_t
 {
     Unknown = 0,
@@ -200,6 +224,7 @@ enum class HRM_API_TYPE EAssemblyUnfoldedViewMode : int32_t
     False = 2,
 };
 
+/// Whether manufacturing features or their results are imported.
 enum class HRM_API_TYPE EImportMfgProcessingModeType : int32_t
 {
     Unknown = 0,
@@ -207,6 +232,7 @@ enum class HRM_API_TYPE EImportMfgProcessingModeType : int32_t
     ResultsOnly = 2,
 };
 
+/// Which suppressed entities are translated.
 enum class HRM_API_TYPE ETranslateSuppressedEntitiesModeType : int32_t
 {
     Unknown = 0,
@@ -214,6 +240,7 @@ enum class HRM_API_TYPE ETranslateSuppressedEntitiesModeType : int32_t
     None = 2,
 };
 
+/// Whether manufacturing data is processed.
 enum class HRM_API_TYPE EProcessMfgDataModeType : int32_t
 {
     Unknown = 0,
@@ -221,13 +248,14 @@ enum class HRM_API_TYPE EProcessMfgDataModeType : int32_t
     None = 2,
 };
 
-// Has no Unknown: an unknown word reads as None.
+/// Has no Unknown: an unknown word reads as None.
 enum class HRM_API_TYPE EDocumentDelayLoadingMode : int32_t
 {
     None = 0,
     Part = 1,
 };
 
+/// Which edges carry attributes.
 enum class HRM_API_TYPE EEdgeAttributeModeType : int32_t
 {
     Unknown = 0,
@@ -237,6 +265,7 @@ enum class HRM_API_TYPE EEdgeAttributeModeType : int32_t
     WireBodyOnly = 4,
 };
 
+/// Whether manufacturing holes on sheets are imported.
 enum class HRM_API_TYPE EImportMfgHolesOnSheetsMode : int32_t
 {
     Unknown = 0,
@@ -244,6 +273,7 @@ enum class HRM_API_TYPE EImportMfgHolesOnSheetsMode : int32_t
     Include = 2,
 };
 
+/// Whether driving dimensions are translated.
 enum class HRM_API_TYPE ETranslateDrivingDimensionsModeType : int32_t
 {
     Unknown = 0,
@@ -251,6 +281,7 @@ enum class HRM_API_TYPE ETranslateDrivingDimensionsModeType : int32_t
     False = 2,
 };
 
+/// Whether construction geometry is translated.
 enum class HRM_API_TYPE ETranslateConstructionGeometriesModeType : int32_t
 {
     Unknown = 0,
@@ -258,6 +289,7 @@ enum class HRM_API_TYPE ETranslateConstructionGeometriesModeType : int32_t
     False = 2,
 };
 
+/// How copious data (point and line sets) is imported.
 enum class HRM_API_TYPE ECopiousDataModeType : int32_t
 {
     Unknown = 0,
@@ -266,8 +298,8 @@ enum class HRM_API_TYPE ECopiousDataModeType : int32_t
     MultipleLines = 3,
 };
 
-// Prefer2d and Prefer3d are one value: both words read as 1, which is written as "2d". Value 2
-// has no word and is written as "unknown".
+/// Prefer2d and Prefer3d are one value: both words read as 1, which is written as "2d". Value 2
+/// has no word and is written as "unknown".
 enum class HRM_API_TYPE ETrimCurveImportPreferenceModeType : int32_t
 {
     Unknown = 0,
@@ -276,6 +308,7 @@ enum class HRM_API_TYPE ETrimCurveImportPreferenceModeType : int32_t
     FromSource = 3,
 };
 
+/// Whether only the active state of a model is processed.
 enum class HRM_API_TYPE EActiveStateProcessingModeType : int32_t
 {
     Unknown = 0,
@@ -283,6 +316,7 @@ enum class HRM_API_TYPE EActiveStateProcessingModeType : int32_t
     ActiveAndInactive = 2,
 };
 
+/// Whether edges are imported.
 enum class HRM_API_TYPE EImportEdgesModeType : int32_t
 {
     Unknown = 0,
@@ -290,6 +324,7 @@ enum class HRM_API_TYPE EImportEdgesModeType : int32_t
     None = 2,
 };
 
+/// Whether user properties are translated.
 enum class HRM_API_TYPE EUserPropertiesModeType : int32_t
 {
     Unknown = 0,
@@ -297,6 +332,7 @@ enum class HRM_API_TYPE EUserPropertiesModeType : int32_t
     TranslateNone = 2,
 };
 
+/// Whether free curves are translated.
 enum class HRM_API_TYPE ETranslateFreeCurvesModeType : int32_t
 {
     Unknown = 0,
@@ -304,6 +340,7 @@ enum class HRM_API_TYPE ETranslateFreeCurvesModeType : int32_t
     None = 2,
 };
 
+/// Whether free points are translated.
 enum class HRM_API_TYPE ETranslateFreePointsModeType : int32_t
 {
     Unknown = 0,
@@ -311,6 +348,7 @@ enum class HRM_API_TYPE ETranslateFreePointsModeType : int32_t
     None = 2,
 };
 
+/// Which representation of the product structure is imported.
 enum class HRM_API_TYPE EImportProductStructureRepresentationMode : int32_t
 {
     Unknown = 0,

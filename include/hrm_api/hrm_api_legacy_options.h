@@ -1,6 +1,7 @@
 #pragma once
 
-// The options of import and export commands sent to the service's legacy interface.
+/// @file
+/// The options of import and export commands sent to the service's legacy interface.
 
 #include <hrm_api/hrm_api_command_options.h>
 #include <hrm_api/hrm_api_enums.h>
@@ -13,82 +14,104 @@
 
 namespace hrm {
 
+/// The options of an import command over the legacy interface, which produces a drawing.
 class HRM_API LegacyImportOptions : public HermetorOptions
 {
 public:
     EOperationType operationType() const override { return EOperationType::Import; }
 
+    /// The path of the file to import.
     virtual const std::wstring& file() const = 0;
     virtual void setFile(const std::wstring& file) = 0;
-    // Where the legacy translator leaves the drawing it produces.
+    /// Where the legacy translator leaves the drawing it produces.
     virtual const std::wstring& temporaryDwg() const = 0;
     virtual void setTemporaryDwg(const std::wstring& path) = 0;
+    /// Whether the translator is to run in multi-process mode.
     virtual bool useInteropMP() const = 0;
     virtual void setUseInteropMP(bool value) = 0;
+    /// How PMI is imported.
     virtual ELegacyPMIMode pmiMode() const = 0;
     virtual void setPmiMode(ELegacyPMIMode value) = 0;
+    /// How the product structure is imported.
     virtual ELegacyProductStructureMode productStructureMode() const = 0;
     virtual void setProductStructureMode(ELegacyProductStructureMode value) = 0;
+    /// How colours are matched to the drawing's.
     virtual ELegacyColorsMode colorsMode() const = 0;
     virtual void setColorsMode(ELegacyColorsMode value) = 0;
+    /// Whether and how hidden parts are imported.
     virtual ELegacyHiddenPartsImportMode hiddenPartsMode() const = 0;
     virtual void setHiddenPartsMode(ELegacyHiddenPartsImportMode value) = 0;
-    // The units the source file's insertion units are taken for.
+    /// The units the source file's insertion units are taken for.
     virtual ELegacyInsertionUnits insertionUnitsSource() const = 0;
     virtual void setInsertionUnitsSource(ELegacyInsertionUnits value) = 0;
-    // Whether the model is scaled from its insertion units to the drawing's.
+    /// Whether the model is scaled from its insertion units to the drawing's.
     virtual bool insertionUnitsScaling() const = 0;
     virtual void setInsertionUnitsScaling(bool value) = 0;
+    /// Whether ACIS files are imported by the host itself.
     virtual bool importAcisWithArdenix() const = 0;
     virtual void setImportAcisWithArdenix(bool value) = 0;
+    /// Whether STEP models are turned from Y up to Z up.
     virtual bool stepRotateYZ() const = 0;
     virtual void setStepRotateYZ(bool value) = 0;
+    /// Whether SolidWorks models are turned from Y up to Z up.
     virtual bool solidWorksRotateYZ() const = 0;
     virtual void setSolidWorksRotateYZ(bool value) = 0;
+    /// Which edges carry attributes.
     virtual EEdgeAttributeModeType edgeAttributeMode() const = 0;
     virtual void setEdgeAttributeMode(EEdgeAttributeModeType value) = 0;
+    /// Further folders where the files of an assembly's parts are looked for.
     virtual const std::wstring& alternateSearchPaths() const = 0;
     virtual void setAlternateSearchPaths(const std::wstring& paths) = 0;
+    /// Whether the translator writes a debug log.
     virtual bool debugLog() const = 0;
     virtual void setDebugLog(bool value) = 0;
 };
 
+/// The options of an export command over the legacy interface, which writes the host's drawing.
 class HRM_API LegacyExportOptions : public HermetorOptions
 {
 public:
     EOperationType operationType() const override { return EOperationType::Export; }
 
+    /// The path of the file to write.
     virtual const std::wstring& file() const = 0;
     virtual void setFile(const std::wstring& file) = 0;
-    // The units the written file's insertion units are set to.
+    /// The units the written file's insertion units are set to.
     virtual ELegacyInsertionUnits insertionUnitsTarget() const = 0;
     virtual void setInsertionUnitsTarget(ELegacyInsertionUnits value) = 0;
-    // The name of the host's selection set to export; empty: the whole model.
+    /// The name of the host's selection set to export; empty: the whole model.
     virtual const std::wstring& selectionSet() const = 0;
     virtual void setSelectionSet(const std::wstring& name) = 0;
-    // Whether components keep their names in the written file.
+    /// Whether components keep their names in the written file.
     virtual bool componentNames() const = 0;
     virtual void setComponentNames(bool value) = 0;
+    /// Whether and how hidden components are exported.
     virtual ELegacyHiddenComponentsExportMode hiddenComponents() const = 0;
     virtual void setHiddenComponents(ELegacyHiddenComponentsExportMode value) = 0;
+    /// The ACIS version to write.
     virtual EExportVersionAcis acisFormatVersion() const = 0;
     virtual void setAcisFormatVersion(EExportVersionAcis value) = 0;
+    /// The Parasolid version to write.
     virtual EExportVersionParasolid parasolidFormatVersion() const = 0;
     virtual void setParasolidFormatVersion(EExportVersionParasolid value) = 0;
+    /// The CATIA V4 version to write.
     virtual EExportVersionCatiaV4 catiaV4FormatVersion() const = 0;
     virtual void setCatiaV4FormatVersion(EExportVersionCatiaV4 value) = 0;
+    /// The CATIA V5 version to write.
     virtual EExportVersionCatiaV5 catiaV5FormatVersion() const = 0;
     virtual void setCatiaV5FormatVersion(EExportVersionCatiaV5 value) = 0;
+    /// The STEP application protocol to write.
     virtual EExportVersionStep stepFormatVersion() const = 0;
     virtual void setStepFormatVersion(EExportVersionStep value) = 0;
+    /// The XCGM version to write.
     virtual EExportVersionXCGM xcgmFormatVersion() const = 0;
     virtual void setXcgmFormatVersion(EExportVersionXCGM value) = 0;
 };
 
-// Keys: "file", "temporary_dwg", "use_interop_mp", "pmi_mode", "product_structure_mode",
-// "colors_mode", "hidden_parts_mode", "ins_units_def_source", "ins_units_scaling",
-// "import_acis_with_ardenix", "step_rotate_yz", "solidworks_rotate_yz", "edge_attribute_mode",
-// "alternate_search_paths", "debug_log".
+/// Keys: "file", "temporary_dwg", "use_interop_mp", "pmi_mode", "product_structure_mode",
+/// "colors_mode", "hidden_parts_mode", "ins_units_def_source", "ins_units_scaling",
+/// "import_acis_with_ardenix", "step_rotate_yz", "solidworks_rotate_yz", "edge_attribute_mode",
+/// "alternate_search_paths", "debug_log".
 class HRM_API LegacyImportOptionsImpl : public LegacyImportOptions
 {
 public:
@@ -123,13 +146,13 @@ public:
     bool debugLog() const override { return m_debugLog; }
     void setDebugLog(bool value) override { m_debugLog = value; }
 
-    // Throws std::invalid_argument for a value that is no object ("!object.IsObject()"), has
-    // no "file" string ("Json document has no valid file path.") or no "temporary_dwg"
-    // string ("Json document has no valid temporary dwg path."); the other keys are lenient.
+    /// Throws std::invalid_argument for a value that is no object ("!object.IsObject()"), has
+    /// no "file" string ("Json document has no valid file path.") or no "temporary_dwg"
+    /// string ("Json document has no valid temporary dwg path."); the other keys are lenient.
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
-    // Equal when both write the same JSON.
+    /// Equal when both write the same JSON.
     bool operator==(const LegacyImportOptionsImpl& other) const;
     bool operator!=(const LegacyImportOptionsImpl& other) const { return !(*this == other); }
 
@@ -153,10 +176,10 @@ private:
     bool m_debugLog = false;
 };
 
-// Keys: "file", "ins_units_def_target", "selection_set", "component_names",
-// "hidden_components", "acis_format_version", "parasolid_format_version",
-// "catiav4_format_version", "catiav5_format_version", "step_format_version",
-// "xcgm_format_version".
+/// Keys: "file", "ins_units_def_target", "selection_set", "component_names",
+/// "hidden_components", "acis_format_version", "parasolid_format_version",
+/// "catiav4_format_version", "catiav5_format_version", "step_format_version",
+/// "xcgm_format_version".
 class HRM_API LegacyExportOptionsImpl : public LegacyExportOptions
 {
 public:
@@ -183,11 +206,12 @@ public:
     EExportVersionXCGM xcgmFormatVersion() const override { return m_xcgmFormatVersion; }
     void setXcgmFormatVersion(EExportVersionXCGM value) override { m_xcgmFormatVersion = value; }
 
-    // Throws std::invalid_argument for a value that is no object ("!object.IsObject()") or
-    // has no "file" string ("Json document has no valid file path."); the other keys are lenient.
+    /// Throws std::invalid_argument for a value that is no object ("!object.IsObject()") or
+    /// has no "file" string ("Json document has no valid file path."); the other keys are lenient.
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    /// Whether all fields are equal.
     bool operator==(const LegacyExportOptionsImpl& other) const;
     bool operator!=(const LegacyExportOptionsImpl& other) const { return !(*this == other); }
 

@@ -166,8 +166,14 @@ bool operator==(const IFormatOptions& a, const IFormatOptions& b)
 }
 
 HermetorOptions::~HermetorOptions() = default;
+FormatOptionsHolder::~FormatOptionsHolder() = default;
 
-std::shared_ptr<IFormatOptions> ImportOptionsImpl::formatOptions(EFormatType type) const
+std::shared_ptr<IFormatOptions> ImportOptionsImpl::formatOptions(EFormatType type)
+{
+    return find(m_formatOptions, type);
+}
+
+std::shared_ptr<const IFormatOptions> ImportOptionsImpl::formatOptions(EFormatType type) const
 {
     return find(m_formatOptions, type);
 }
@@ -212,7 +218,12 @@ bool ImportOptionsImpl::operator==(const ImportOptionsImpl& other) const
         && sameOptions(m_formatOptions, other.m_formatOptions);
 }
 
-std::shared_ptr<IFormatOptions> ExportOptionsImpl::formatOptions(EFormatType type) const
+std::shared_ptr<IFormatOptions> ExportOptionsImpl::formatOptions(EFormatType type)
+{
+    return find(m_formatOptions, type);
+}
+
+std::shared_ptr<const IFormatOptions> ExportOptionsImpl::formatOptions(EFormatType type) const
 {
     return find(m_formatOptions, type);
 }

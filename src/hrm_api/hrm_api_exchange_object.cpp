@@ -14,6 +14,7 @@
 #include <boost/uuid/uuid_io.hpp>
 
 #include <map>
+#include <sstream>
 #include <stdexcept>
 #include <vector>
 
@@ -143,27 +144,24 @@ void failedWrite()
     throw std::runtime_error("Cannot write object into json document");
 }
 
-} // namespace
-
-void ExchangeObjectWrapper::writeObject(std::wostream& out) const
+// Writes the envelope of `object` and returns the name of the shared-memory buffer it created
+// for a binary object (empty for an inline one). A buffer whose envelope could not be written
+// is removed again.
+std::wstring writeEnvelope(const IExchangeObject& object, std::wostream& out)
 {
-    HRM_TRACE();
-    m_createdBuffer.clear();
-    if (!m_pObject)
-        throw std::invalid_argument("ExchangeObjectWrapper::writeObject > m_pObject == nullptr");
     if (!out)
         failedWrite(); // before a buffer that nobody would learn of is made
 
     JsonDocument envelope(rapidjson::kObjectType);
     MemberWriter members(envelope, envelope.GetAllocator());
-    members.string(L"exchange_object_name", m_pObject->objectName());
-    if (!m_pObject->binary()) {
-        members.object(L"exchange_object_data", *m_pObject);
+    members.string(L"exchange_object_name", object.objectName());
+    if (!object.binary()) {
+        members.object(L"exchange_object_data", object);
         if (!JsonTextIO::write(out, envelope, false))
             failedWrite();
-        return;
+        return {};
     }
-    mp::SharedBuffer<char> buffer = writeToSharedMemory(*m_pObject, envelope.GetAllocator());
+    mp::SharedBuffer<char> buffer = writeToSharedMemory(object, envelope.GetAllocator());
     members.boolean(L"binary", true).string(L"exchange_object_data", buffer.name());
     try {
         if (!JsonTextIO::write(out, envelope, false))
@@ -172,7 +170,18 @@ void ExchangeObjectWrapper::writeObject(std::wostream& out) const
         buffer.removeOwned(); // the reader will never learn of it
         throw;
     }
-    m_createdBuffer = buffer.name();
+    return buffer.name();
+}
+
+} // namespace
+
+void ExchangeObjectWrapper::writeObject(std::wostream& out) const
+{
+    HRM_TRACE();
+    m_createdBuffer.clear();
+    if (!m_pObject)
+        throw std::invalid_argument("ExchangeObjectWrapper::writeObject > m_pObject == nullptr");
+    m_createdBuffer = writeEnvelope(*m_pObject, out);
 }
 
 void ExchangeObjectWrapper::readObject(std::wistream& in)
@@ -244,6 +253,27 @@ void ExchangeObjectWrapper::discard(const std::wstring& buffer) const
     } catch (const mp::SharedMemoryException&) {
         // gone already, or not ours to open
     }
+}
+
+// ---- The envelope in one call ----------------------------------------------------------------
+
+std::wstring toEnvelope(const IExchangeObject& object, std::wstring* createdBuffer)
+{
+    HRM_TRACE();
+    std::wostringstream out;
+    const std::wstring created = writeEnvelope(object, out);
+    if (createdBuffer)
+        *createdBuffer = created;
+    return out.str();
+}
+
+ExchangeObjectWrapper fromEnvelope(const std::wstring& envelope)
+{
+    HRM_TRACE();
+    ExchangeObjectWrapper wrapper;
+    std::wistringstream in(envelope);
+    wrapper.readObject(in);
+    return wrapper;
 }
 
 // ---- Status objects -----------------------------------------------------------------------

@@ -1,6 +1,6 @@
 #include <mp/mp_exception.h>
 
-#include <hrm_api/hrm_api_json.h>
+#include <hrm_api/hrm_api_text.h>
 
 namespace mp {
 

@@ -18,6 +18,9 @@ run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix} ${config_args})
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/tests/consumer -B ${WORK_DIR}/build -G ${GENERATOR}
     -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_RPATH=${prefix}/lib -DHRM_EXPECTED_VERSION=${VERSION})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build ${config_args})
-find_program(consumer NAMES consumer PATHS ${WORK_DIR}/build ${WORK_DIR}/build/${CONFIG} NO_DEFAULT_PATH REQUIRED)
-run(${consumer})
-message(STATUS "consumer project built and ran against the installed package")
+foreach(program consumer rapidjson_first)
+  find_program(${program}_path NAMES ${program} PATHS ${WORK_DIR}/build ${WORK_DIR}/build/${CONFIG}
+    NO_DEFAULT_PATH NO_CACHE REQUIRED)
+  run(${${program}_path})
+endforeach()
+message(STATUS "consumer programs built and ran against the installed package")
