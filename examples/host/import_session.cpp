@@ -1,6 +1,6 @@
 #include "import_session.h"
 
-#include "documents.h"
+#include "shared_memory.h"
 
 #include <hrm_api/hrm_api_command.h>
 #include <hrm_api/hrm_api_format_options.h>
@@ -102,7 +102,7 @@ private:
     void send(const hrm::Command& command)
     {
         try {
-            m_translator.sendCommand(frame::textOf(command));
+            m_translator.sendCommand(mp::toText(command));
         } catch (const frame::FrameError&) {
             throw TranslatorFailure(gone());
         }
@@ -132,7 +132,7 @@ private:
     void readDocument(Document& document, const frame::Frame& received)
     {
         try {
-            frame::readFrom(document, hrm::fromUtf8(received.text));
+            mp::fromText(hrm::fromUtf8(received.text), document);
         } catch (const std::exception& error) {
             m_translator.kill();
             throw TranslatorFailure("The translator sent an unreadable '" + received.kind + "' document: " + error.what());
@@ -174,30 +174,30 @@ private:
             m_traffic.sharedObjectsLeft += frame::sharedMemorySize(buffer) > 0 ? 1 : 0;
         }
         m_traffic.loading += Clock::now() - start;
-        keep(object);
+        keep(wrapper);
     }
 
-    void keep(const std::shared_ptr<hrm::IExchangeObject>& object)
+    void keep(const hrm::ExchangeObjectWrapper& wrapper)
     {
-        if (auto progress = std::dynamic_pointer_cast<hrm::ExcProgress>(object)) {
+        if (auto progress = wrapper.get<hrm::ExcProgress>()) {
             if (m_progress)
                 m_progress(progress->stage(), progress->pulse() ? -1 : progress->progress() * 100 / std::max(1, progress->progressMax()));
-        } else if (auto log = std::dynamic_pointer_cast<hrm::ExcLog>(object)) {
+        } else if (auto log = wrapper.get<hrm::ExcLog>()) {
             if (log->message().rfind(L"timing ", 0) == 0)
                 m_traffic.translatorSeconds = timingsOf(log->message());
             else
                 m_received.logLines.push_back(log->message());
-        } else if (auto message = std::dynamic_pointer_cast<hrm::ExcMessage>(object)) {
+        } else if (auto message = wrapper.get<hrm::ExcMessage>()) {
             m_received.messages.push_back(message->message());
-        } else if (auto structure = std::dynamic_pointer_cast<hrm::ExcProductStructure>(object)) {
+        } else if (auto structure = wrapper.get<hrm::ExcProductStructure>()) {
             m_received.productStructure = structure;
-        } else if (auto block = std::dynamic_pointer_cast<hrm::ExcBlockVisualization>(object)) {
+        } else if (auto block = wrapper.get<hrm::ExcBlockVisualization>()) {
             m_received.blockVisualizations.push_back(block);
-        } else if (auto root = std::dynamic_pointer_cast<hrm::ExcRootAssemblyVisualization>(object)) {
+        } else if (auto root = wrapper.get<hrm::ExcRootAssemblyVisualization>()) {
             m_received.rootVisualization = root;
-        } else if (auto rootMechanical = std::dynamic_pointer_cast<hrm::ExcRootMechanicalData>(object)) {
+        } else if (auto rootMechanical = wrapper.get<hrm::ExcRootMechanicalData>()) {
             m_received.rootMechanicalData = rootMechanical;
-        } else if (auto blockMechanical = std::dynamic_pointer_cast<hrm::ExcBlockMechanicalData>(object)) {
+        } else if (auto blockMechanical = wrapper.get<hrm::ExcBlockMechanicalData>()) {
             m_received.blockMechanicalData.push_back(blockMechanical);
         }
     }

@@ -1,13 +1,12 @@
 #include "channel.h"
 
-#include "documents.h"
+#include "shared_memory.h"
 
 #include <mp/mp_shared_buffer.h>
 
 #include <unistd.h>
 
 #include <cstdio>
-#include <sstream>
 
 namespace translator {
 
@@ -36,21 +35,19 @@ void Channel::sendText(const std::string& kind, const std::wstring& text)
 
 void Channel::send(const hrm::Result& result)
 {
-    sendText("result", frame::textOf(result));
+    sendText("result", mp::toText(result));
 }
 
 void Channel::send(const hrm::HermetorInfo& info)
 {
-    sendText("info", frame::textOf(info));
+    sendText("info", mp::toText(info));
 }
 
 void Channel::send(const std::shared_ptr<hrm::IExchangeObject>& object)
 {
     const auto start = std::chrono::steady_clock::now();
-    hrm::ExchangeObjectWrapper wrapper;
-    wrapper.set(object);
-    const std::wstring envelope = frame::textOf(wrapper);
-    const std::wstring& buffer = wrapper.createdBuffer();
+    std::wstring buffer;
+    const std::wstring envelope = hrm::toEnvelope(*object, &buffer);
     m_writingTime += std::chrono::steady_clock::now() - start;
     if (!buffer.empty())
         m_sharedBytes += frame::sharedMemorySize(buffer);

@@ -245,29 +245,23 @@ hrm::Result endedWith(hrm::Result::ECode code, const std::wstring& message)
     return result;
 }
 
-template <class Options>
-std::shared_ptr<Options> optionsOf(const hrm::ImportOptions& options, hrm::EFormatType type)
-{
-    return std::dynamic_pointer_cast<Options>(options.formatOptions(type));
-}
-
 } // namespace
 
 ImportSettings settingsOf(const hrm::ImportOptions& options)
 {
     ImportSettings settings;
     settings.file = hrm::toUtf8(options.file());
-    if (const auto graphical = optionsOf<hrm::OptionsGraphical>(options, hrm::EFormatType::Graphical)) {
+    if (const auto graphical = options.formatOptions<hrm::OptionsGraphical>()) {
         settings.sag = std::max(0.0, graphical->tessellation3dSagValue());
         if (graphical->visuBRepTessellationMode() == hrm::EVisuBRepTessellationModeType::Never)
             settings.visualization = settings.rootVisualization = false;
     }
-    const auto step = optionsOf<hrm::imp::OptionsSTEP>(options, hrm::EFormatType::STEP);
+    const auto step = options.formatOptions<hrm::imp::OptionsSTEP>();
     if (step && cad::formatOf(settings.file) == cad::Format::Step) {
         settings.visualization = settings.visualization && step->importVisualization();
         settings.rootVisualization = settings.rootVisualization && step->importRootVisualization();
     }
-    if (const auto modeler = optionsOf<hrm::OptionsModeler>(options, hrm::EFormatType::Modeler))
+    if (const auto modeler = options.formatOptions<hrm::OptionsModeler>())
         settings.pmi = modeler->preservePMIMode() != hrm::EPreservePMIModeType::Disabled;
     return settings;
 }

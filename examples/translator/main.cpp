@@ -14,7 +14,6 @@
 
 #include "cad_document.h"
 #include "channel.h"
-#include "documents.h"
 #include "exchange_mapping.h"
 #include "import_job.h"
 
@@ -92,7 +91,7 @@ void answer(translator::Channel& channel, const frame::Frame& received)
     }
     hrm::Command command;
     try {
-        frame::readFrom(command, hrm::fromUtf8(received.text));
+        mp::fromText(hrm::fromUtf8(received.text), command);
     } catch (const std::exception& error) {
         channel.send(resultOf(hrm::Result::ECode::Error, L"Cannot read the command: " + translator::wide(error.what())));
         return;

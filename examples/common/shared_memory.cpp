@@ -1,24 +1,10 @@
-#include "documents.h"
+#include "shared_memory.h"
 
 #include <hrm_api/hrm_api_json.h>
 
 #include <filesystem>
-#include <sstream>
 
 namespace frame {
-
-std::wstring textOf(const mp::ISerializable& document)
-{
-    std::wostringstream out;
-    document.writeObject(out);
-    return out.str();
-}
-
-void readFrom(mp::ISerializable& document, const std::wstring& text)
-{
-    std::wistringstream in(text);
-    document.readObject(in);
-}
 
 std::size_t sharedMemorySize(const std::wstring& name)
 {
