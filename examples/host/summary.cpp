@@ -25,6 +25,12 @@ std::string grouped(std::size_t number)
     return digits;
 }
 
+// "1 assembly", "2 assemblies".
+std::string counted(std::size_t number, const char* one, const char* many)
+{
+    return grouped(number) + " " + (number == 1 ? one : many);
+}
+
 std::string narrow(const std::wstring& text)
 {
     return hrm::toUtf8(text);
@@ -218,17 +224,19 @@ void printSummary(std::FILE* out, const Summary& summary, const Received& receiv
     const Pmi pmi = pmiOf(received);
 
     std::fprintf(out, "%s imported by %s\n", summary.file.c_str(), translatorName(received.info).c_str());
-    std::fprintf(out, "  structure      %s blocks (%s parts, %s assemblies), %s part instances\n", grouped(structure.blocks).c_str(),
-                 grouped(structure.parts).c_str(), grouped(structure.blocks - structure.parts).c_str(),
-                 grouped(structure.instances).c_str());
-    std::fprintf(out, "  geometry       %s faces, %s triangles, %s edges in %s part pictures\n", grouped(geometry.faces).c_str(),
-                 grouped(geometry.triangles).c_str(), grouped(geometry.edges).c_str(),
-                 grouped(received.blockVisualizations.size()).c_str());
+    std::fprintf(out, "  structure      %s (%s, %s), %s\n", counted(structure.blocks, "block", "blocks").c_str(),
+                 counted(structure.parts, "part", "parts").c_str(),
+                 counted(structure.blocks - structure.parts, "assembly", "assemblies").c_str(),
+                 counted(structure.instances, "part instance", "part instances").c_str());
+    std::fprintf(out, "  geometry       %s, %s, %s in %s\n", counted(geometry.faces, "face", "faces").c_str(),
+                 counted(geometry.triangles, "triangle", "triangles").c_str(), counted(geometry.edges, "edge", "edges").c_str(),
+                 counted(received.blockVisualizations.size(), "part picture", "part pictures").c_str());
     if (received.rootMechanicalData || !received.blockMechanicalData.empty())
-        std::fprintf(out, "  PMI            %s datums, %s dimensions, %s geometric tolerances, linked to %s faces\n",
-                     grouped(pmi.datums).c_str(), grouped(pmi.dimensions).c_str(), grouped(pmi.tolerances).c_str(),
-                     grouped(pmi.faces.size()).c_str());
-    std::fprintf(out, "  shared memory  %s objects, %s bytes, %s\n", grouped(traffic.sharedObjects).c_str(),
+        std::fprintf(out, "  PMI            %s, %s, %s, linked to %s\n", counted(pmi.datums, "datum", "datums").c_str(),
+                     counted(pmi.dimensions, "dimension", "dimensions").c_str(),
+                     counted(pmi.tolerances, "geometric tolerance", "geometric tolerances").c_str(),
+                     counted(pmi.faces.size(), "face", "faces").c_str());
+    std::fprintf(out, "  shared memory  %s, %s bytes, %s\n", counted(traffic.sharedObjects, "object", "objects").c_str(),
                  grouped(traffic.sharedBytes).c_str(),
                  traffic.sharedObjectsLeft == 0 ? "all removed" : (grouped(traffic.sharedObjectsLeft) + " left behind").c_str());
     std::fprintf(out, "  stages         reading %.2f s, tessellation %.2f s, PMI %.2f s",

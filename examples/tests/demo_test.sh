@@ -31,7 +31,8 @@ check_no_leftover() {
   [ -z "$appeared" ] || fail "shared-memory objects left behind: $appeared"
 }
 
-# The number after `label` in the host's summary line `line`, without thousands separators.
+# The number before `label` (singular or plural) in the host's summary line `line`, without
+# thousands separators.
 count() {
   local line=$1 label=$2
   echo "$line" | tr -d ',' | grep -oE "[0-9]+ $label" | head -1 | cut -d' ' -f1
@@ -50,16 +51,16 @@ import_test() {
 
   local geometry faces triangles
   geometry=$(echo "$summary" | grep '^  geometry')
-  faces=$(count "$geometry" faces)
-  triangles=$(count "$geometry" triangles)
+  faces=$(count "$geometry" face)
+  triangles=$(count "$geometry" triangle)
   [ "faces=$faces triangles=$triangles" = "$(echo "$reference" | grep -oE 'faces=[0-9]+ triangles=[0-9]+')" ] ||
     fail "$name: host received $faces faces and $triangles triangles; OpenCASCADE: $reference"
   if [ -n "$pmi" ]; then
     local line datums dimensions tolerances
     line=$(echo "$summary" | grep '^  PMI') || fail "$name: no PMI in the summary"
-    datums=$(count "$line" datums)
-    dimensions=$(count "$line" dimensions)
-    tolerances=$(count "$line" 'geometric tolerances')
+    datums=$(count "$line" datum)
+    dimensions=$(count "$line" dimension)
+    tolerances=$(count "$line" 'geometric tolerance')
     [ "datums=$datums dimensions=$dimensions tolerances=$tolerances" = \
       "$(echo "$reference" | grep -oE 'datums=.*')" ] ||
       fail "$name: host received $datums datums, $dimensions dimensions, $tolerances tolerances; OpenCASCADE: $reference"
