@@ -215,19 +215,20 @@ private:
 
     hrm::Result finalResult() const
     {
-        std::wostringstream message;
-        message << L"Imported " << wide(m_settings.file) << L": " << m_tally.blocks << L" blocks, " << m_tally.faces
-                << L" faces, " << m_tally.triangles << L" triangles";
+        const auto counted = [](std::size_t number, const wchar_t* one, const wchar_t* many) {
+            return std::to_wstring(number) + L" " + (number == 1 ? one : many);
+        };
+        std::wstring message = L"Imported " + wide(m_settings.file) + L": " + counted(m_tally.blocks, L"block", L"blocks") +
+                               L", " + counted(m_tally.faces, L"face", L"faces") + L", " +
+                               counted(m_tally.triangles, L"triangle", L"triangles");
         if (m_settings.pmi)
-            message << L"; PMI: " << m_tally.datums << L" datums, " << m_tally.dimensions << L" dimensions, "
-                    << m_tally.tolerances << L" geometric tolerances";
-        hrm::Result result;
-        result.setCode(m_tally.facesWithoutTriangles > 0 ? hrm::Result::ECode::Warning : hrm::Result::ECode::Ok);
-        if (m_tally.facesWithoutTriangles > 0)
-            message << L" (" << m_tally.facesWithoutTriangles << L" faces without triangles)";
-        result.setMessage(message.str());
-        result.setFinished(true);
-        return result;
+            message += L"; PMI: " + counted(m_tally.datums, L"datum", L"datums") + L", " +
+                       counted(m_tally.dimensions, L"dimension", L"dimensions") + L", " +
+                       counted(m_tally.tolerances, L"geometric tolerance", L"geometric tolerances");
+        if (m_tally.facesWithoutTriangles == 0)
+            return endResult(hrm::Result::ECode::Ok, message);
+        message += L" (" + counted(m_tally.facesWithoutTriangles, L"face", L"faces") + L" without triangles)";
+        return endResult(hrm::Result::ECode::Warning, message);
     }
 
     Channel& m_channel;
@@ -236,7 +237,9 @@ private:
     Tally m_tally;
 };
 
-hrm::Result endedWith(hrm::Result::ECode code, const std::wstring& message)
+} // namespace
+
+hrm::Result endResult(hrm::Result::ECode code, const std::wstring& message)
 {
     hrm::Result result;
     result.setCode(code);
@@ -244,8 +247,6 @@ hrm::Result endedWith(hrm::Result::ECode code, const std::wstring& message)
     result.setFinished(true);
     return result;
 }
-
-} // namespace
 
 ImportSettings settingsOf(const hrm::ImportOptions& options)
 {
@@ -271,15 +272,15 @@ hrm::Result runImport(Channel& channel, const ImportSettings& settings, const st
     try {
         return ImportRun(channel, settings, stop).run();
     } catch (const Interrupted&) {
-        return endedWith(hrm::Result::ECode::Interrupted, L"Import interrupted");
+        return endResult(hrm::Result::ECode::Interrupted, L"Import interrupted");
     } catch (const cad::Error& error) {
         if (stop)
-            return endedWith(hrm::Result::ECode::Interrupted, L"Import interrupted");
-        return endedWith(hrm::Result::ECode::Error, wide(error.what()));
+            return endResult(hrm::Result::ECode::Interrupted, L"Import interrupted");
+        return endResult(hrm::Result::ECode::Error, wide(error.what()));
     } catch (const HostGone&) {
         throw;
     } catch (const std::exception& error) {
-        return endedWith(hrm::Result::ECode::Error, L"Import failed: " + wide(error.what()));
+        return endResult(hrm::Result::ECode::Error, L"Import failed: " + wide(error.what()));
     }
 }
 

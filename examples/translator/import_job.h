@@ -29,6 +29,9 @@ struct ImportSettings
 // graphical tessellation mode "never"; the modeler options' PMI mode "disabled".
 ImportSettings settingsOf(const hrm::ImportOptions& options);
 
+// A Result that ends a command: its code and message, finished.
+hrm::Result endResult(hrm::Result::ECode code, const std::wstring& message);
+
 // Runs one import and says how it ended. Objects go out on the channel as they are ready; the
 // job stops early, with an interrupted result, once `stop` is set.
 hrm::Result runImport(Channel& channel, const ImportSettings& settings, const std::atomic<bool>& stop);

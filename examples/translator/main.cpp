@@ -60,15 +60,6 @@ void installSignalHandlers()
     std::signal(SIGPIPE, SIG_IGN);
 }
 
-hrm::Result resultOf(hrm::Result::ECode code, const std::wstring& message)
-{
-    hrm::Result result;
-    result.setCode(code);
-    result.setMessage(message);
-    result.setFinished(true);
-    return result;
-}
-
 hrm::HermetorInfo info()
 {
     hrm::HermetorInfo info;
@@ -86,26 +77,26 @@ hrm::HermetorInfo info()
 void answer(translator::Channel& channel, const frame::Frame& received)
 {
     if (received.kind != "command") {
-        channel.send(resultOf(hrm::Result::ECode::Error, L"Expected a command, received a '" + translator::wide(received.kind) + L"' frame"));
+        channel.send(translator::endResult(hrm::Result::ECode::Error, L"Expected a command, received a '" + translator::wide(received.kind) + L"' frame"));
         return;
     }
     hrm::Command command;
     try {
         mp::fromText(hrm::fromUtf8(received.text), command);
     } catch (const std::exception& error) {
-        channel.send(resultOf(hrm::Result::ECode::Error, L"Cannot read the command: " + translator::wide(error.what())));
+        channel.send(translator::endResult(hrm::Result::ECode::Error, L"Cannot read the command: " + translator::wide(error.what())));
         return;
     }
     switch (command.type()) {
     case hrm::Command::EType::Ping:
-        channel.send(resultOf(hrm::Result::ECode::Ok, L""));
+        channel.send(translator::endResult(hrm::Result::ECode::Ok, L""));
         return;
     case hrm::Command::EType::Info:
         channel.send(info());
         return;
     case hrm::Command::EType::Import:
         if (!command.importOptions()) {
-            channel.send(resultOf(hrm::Result::ECode::Error, L"This translator imports through the current interface only"));
+            channel.send(translator::endResult(hrm::Result::ECode::Error, L"This translator imports through the current interface only"));
             return;
         }
     {
@@ -118,10 +109,10 @@ void answer(translator::Channel& channel, const frame::Frame& received)
         return;
     }
     case hrm::Command::EType::Export:
-        channel.send(resultOf(hrm::Result::ECode::Error, L"This translator does not export"));
+        channel.send(translator::endResult(hrm::Result::ECode::Error, L"This translator does not export"));
         return;
     default:
-        channel.send(resultOf(hrm::Result::ECode::Error, L"Unknown command"));
+        channel.send(translator::endResult(hrm::Result::ECode::Error, L"Unknown command"));
         return;
     }
 }
