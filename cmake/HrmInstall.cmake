@@ -1,6 +1,12 @@
 include(CMakePackageConfigHelpers)
 
-install(TARGETS hrm_api EXPORT hrm_apiTargets
+# A stand-in build ships the modeler stand-in beside the library: the public headers include it.
+set(HRM_INSTALL_TARGETS hrm_api)
+if(HRM_MODELER STREQUAL "standin")
+  list(APPEND HRM_INSTALL_TARGETS hrm_modeler_standin)
+  install(FILES tests/modeler_standin/modeler_standin.hxx DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+endif()
+install(TARGETS ${HRM_INSTALL_TARGETS} EXPORT hrm_apiTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}

@@ -3,12 +3,14 @@
 // that the buffer fuzz::payloadBuffer holds for this input (no NUL: no buffer). The reader
 // removes the buffers it loads (its default), and the library-wide size limit is 1 MiB. An
 // envelope that reads gives an object whose own envelope reads back to an object with the same
-// JSON, and the buffer written for that is gone once read.
+// JSON, and the buffer written for that is gone once read. A block geometry naming the payload
+// buffer loads it and restores what it holds.
 
 #include "fuzz_exchange_object.h"
 #include "fuzz_support.h"
 
 #include <hrm_api/hrm_api_compression.h>
+#include <hrm_api/hrm_api_exchange_mechanical_geometry.h>
 #include <mp/mp_shared_buffer.h>
 
 #include <algorithm>
@@ -43,6 +45,21 @@ std::pair<std::wstring, std::wstring> envelopeOf(const std::shared_ptr<IExchange
     std::wostringstream out;
     wrapper.writeObject(out);
     return {out.str(), wrapper.createdBuffer()};
+}
+
+// Loads a block geometry and restores its entities (losing them again); failures are logged, or
+// thrown by load() as documented.
+void loadGeometry(ExcBlockGeometry& geometry)
+{
+    if (!fuzz::decodes([&] { geometry.load(); }))
+        return;
+    fuzz::check(geometry.isLoaded(), "a geometry that loads is loaded");
+#if HRM_HAS_MODELER
+    ENTITY_LIST entities;
+    geometry.getGeometry(entities);
+    for (int i = 0; i < entities.count(); ++i)
+        entities[i]->lose();
+#endif
 }
 
 bool sameJson(const IExchangeObject& a, const IExchangeObject& b)
@@ -82,5 +99,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const auto again = read(envelope);
     fuzz::check(again && sameJson(*object, *again), "a written envelope reads back to the same object");
     fuzz::check(buffer.empty() || !mp::SharedBuffer<char>::remove(buffer), "the reader removes the buffer it loads");
+    if (const auto geometry = std::dynamic_pointer_cast<ExcBlockGeometry>(object))
+        loadGeometry(*geometry);
     return 0;
 }

@@ -7,6 +7,8 @@
 
 #include <hrm_api/hrm_api_command.h>
 #include <hrm_api/hrm_api_compression.h>
+#include <hrm_api/hrm_api_acis_attrib_id.h>
+#include <hrm_api/hrm_api_exchange_mechanical_geometry.h>
 #include <hrm_api/hrm_api_exchange_object.h>
 #include <hrm_api/hrm_api_format_options.h>
 #include <hrm_api/hrm_api_format_options_export.h>
@@ -284,6 +286,61 @@ void envelopes()
              '\0' + bytesOf(gzip));
 }
 
+#if HRM_HAS_MODELER
+
+// The modeler's saved data of bodies carrying the given attributes (`ids`: an identity tag per
+// id; `plain`: also the organisation attribute and a bare one).
+std::string savedBodies(const std::vector<std::vector<long>>& ids, bool plain)
+{
+    ENTITY_LIST bodies;
+    for (const auto& bodyIds : ids) {
+        BODY* body = ACIS_NEW BODY;
+        for (const long id : bodyIds)
+            ACIS_NEW ATTRIB_HERMETOR_ID(body, id);
+        if (plain) {
+            ACIS_NEW ATTRIB_HERMETOR(body);
+            ACIS_NEW ATTRIB(body);
+        }
+        bodies.add(body);
+    }
+    FileInfo info;
+    info.set_product_id("Ardenix Hermetor");
+    info.set_units(1.0);
+    api_set_file_info(FileIdent | FileUnits, info);
+    ExcSharedAcisBuffer file(L"unused", false);
+    api_save_entity_list_file(&file, bodies);
+    for (int i = 0; i < bodies.count(); ++i)
+        bodies[i]->lose();
+    file.goto_mark(0);
+    std::string bytes(size_t(1) << 16, '\0');
+    bytes.resize(file.read(&bytes[0], bytes.size(), 0));
+    return bytes;
+}
+
+// Saved bodies for the restore target, and block geometries naming the payload buffer that
+// holds them, raw and compressed, for the envelope target.
+void geometry()
+{
+    const std::string tagged = savedBodies({{42}, {43, 44}}, false);
+    save("acis_restore", "tagged.bin", tagged);
+    save("acis_restore", "plain.bin", savedBodies({{}}, true));
+    save("acis_restore", "empty.bin", savedBodies({}, false));
+
+    auto geometry = std::make_shared<ExcBlockGeometry>();
+    geometry->setBlockId(7);
+    geometry->setBinaryData(nullptr, 0, false);
+    mp::SharedBuffer<char>::remove(geometry->source());
+    std::string envelope = envelopeOf(geometry);
+    const std::string name = toNarrow(geometry->source());
+    envelope.replace(envelope.find(name), name.size(), toNarrow(fuzz::payloadBuffer));
+    std::vector<char> gzip;
+    Compressor::compress(gzip, tagged.data(), tagged.size(), -1);
+    save("envelope", "block_geometry_raw.bin", envelope + '\0' + tagged);
+    save("envelope", "block_geometry_gzip.bin", envelope + '\0' + bytesOf(gzip));
+}
+
+#endif
+
 // The glTF target's seeds: binary JSON of block visualizations, one of every class of the family
 // and a small mesh of a quad and a triangle with an edge.
 void gltf()
@@ -339,6 +396,9 @@ int main(int argc, char** argv)
     binaryDocuments();
     base64();
     envelopes();
+#if HRM_HAS_MODELER
+    geometry();
+#endif
     results();
     gltf();
     return 0;

@@ -219,7 +219,8 @@ TEST(ExchangeObjectRegistry, KnowsEveryTypeOfTheLibraryAlsoInAStaticBuild)
 {
     const auto names = ExchangeObjectRegistry::instance().names();
     for (const wchar_t* name : {L"exc_message", L"exc_log", L"exc_progress", L"exc_stage_finished",
-                                L"legacy_component_instance_names", L"legacy_component_material_map"})
+                                L"legacy_component_instance_names", L"legacy_component_material_map",
+                                L"exc_block_geometry"})
         EXPECT_NE(std::find(names.begin(), names.end(), name), names.end()) << toNarrow(name);
 }
 

@@ -48,6 +48,7 @@
 #include <hrm_api/hrm_api_exchange_common.h>
 #include <hrm_api/hrm_api_exchange_common_entity.h>
 #include <hrm_api/hrm_api_exchange_object.h>
+#include <hrm_api/hrm_api_exchange_mechanical_geometry.h>
 #include <hrm_api/hrm_api_exchange_structure.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 #include <hrm_api/hrm_api_exchange_visualization_attributes.h>
@@ -60,6 +61,8 @@
 #include <hrm_api/hrm_api_legacy_options.h>
 #include <hrm_api/hrm_api_command.h>
 #include <hrm_api/hrm_api_hermetor_info.h>
+#include <hrm_api/hrm_api_modeler.h>
+#include <hrm_api/hrm_api_acis_attrib_id.h>
 #include <logging/ax_herm_logger.h>
 #include <mp/mp_exception.h>
 #include <mp/mp_serializable.h>

@@ -6,6 +6,7 @@
 #include <mp/mp_exception.h>
 #include <mp/mp_shared_buffer.h>
 
+#include "hrm_api/hrm_api_buffer_name.h"
 #include "hrm_api/hrm_api_enum_table.h"
 #include "hrm_api/hrm_api_exchange_types.h"
 #include "hrm_api/hrm_api_json_members.h"

@@ -1,5 +1,6 @@
 #include "hrm_api/hrm_api_exchange_types.h"
 
+#include <hrm_api/hrm_api_exchange_mechanical_geometry.h>
 #include <hrm_api/hrm_api_exchange_structure.h>
 #include <hrm_api/hrm_api_exchange_visualization.h>
 
@@ -26,6 +27,7 @@ void addLibraryTypes(ExchangeObjectRegistry& registry)
     addPrototypes<ExcMessage, ExcLog, ExcProgress, ExcStageFinished, LegacyComponentInstanceNames, LegacyMaterialMap>(
         registry);
     addPrototypes<ExcProductStructure>(registry);
+    addPrototypes<ExcBlockGeometry>(registry);
     addPrototypes<ExcBlockVisualization, ExcRootAssemblyVisualization>(registry);
 }
 
