@@ -4,7 +4,7 @@ include(CMakePackageConfigHelpers)
 set(HRM_INSTALL_TARGETS hrm_api)
 if(HRM_MODELER STREQUAL "standin")
   list(APPEND HRM_INSTALL_TARGETS hrm_modeler_standin)
-  install(FILES tests/modeler_standin/modeler_standin.hxx DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  install(FILES modeler_standin/modeler_standin.hxx DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 endif()
 install(TARGETS ${HRM_INSTALL_TARGETS} EXPORT hrm_apiTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}

@@ -1,6 +1,6 @@
 # The solid modeler that the geometry members (ExcSharedAcisBuffer's file interface,
 # ExcBlockGeometry::setGeometry / getGeometry, the identity attributes) are built against:
-#   standin  the stand-in under tests/modeler_standin (the default; what the tests use)
+#   standin  the stand-in under modeler_standin (the default; what the tests use)
 #   acis     the modeler's SDK under ACIS_ROOT
 #   none     no modeler: those members are left out, everything else works
 # hrm_api_modeler.h is the one header that includes the modeler; it learns the choice from the
@@ -10,7 +10,7 @@ set_property(CACHE HRM_MODELER PROPERTY STRINGS standin acis none)
 set(ACIS_ROOT "" CACHE PATH "Root of the modeler's SDK (HRM_MODELER=acis)")
 
 if(HRM_MODELER STREQUAL "standin")
-  add_subdirectory(${PROJECT_SOURCE_DIR}/tests/modeler_standin ${PROJECT_BINARY_DIR}/modeler_standin)
+  add_subdirectory(${PROJECT_SOURCE_DIR}/modeler_standin ${PROJECT_BINARY_DIR}/modeler_standin)
 elseif(HRM_MODELER STREQUAL "acis")
   if(NOT ACIS_ROOT)
     message(FATAL_ERROR "HRM_MODELER=acis needs ACIS_ROOT, the root of the modeler's SDK")
