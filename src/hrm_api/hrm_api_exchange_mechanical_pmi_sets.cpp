@@ -79,15 +79,9 @@ void ExcPMIAnnotationView::members(Members& m)
 HRM_MEMBER_IO(ExcPMIAnnotationView, "ExcPMIAnnotationView")
 HRM_EQUALITY_AS_JSON(ExcPMIAnnotationView)
 
-void ExcPMICapture::addConstructedGeometry(const std::shared_ptr<ExcEntity>& entity)
-{
-    appendChild(m_constructedGeometry, entity, "ExcPMICapture: attempt to add null Constructed Geometry Entity object.");
-}
+HRM_CHILD_ADDER(ExcPMICapture, ExcEntity, addConstructedGeometry, m_constructedGeometry, "Constructed Geometry Entity")
 
-void ExcPMICapture::addBody(const std::shared_ptr<ExcEntity>& body)
-{
-    appendChild(m_bodies, body, "ExcPMICapture: attempt to add null Body object.");
-}
+HRM_CHILD_ADDER(ExcPMICapture, ExcEntity, addBody, m_bodies, "Body")
 
 template <class Members>
 void ExcPMICapture::members(Members& m)
@@ -107,20 +101,11 @@ void ExcPMICapture::members(Members& m)
 HRM_MEMBER_IO(ExcPMICapture, "ExcPMICapture")
 HRM_EQUALITY_AS_JSON(ExcPMICapture)
 
-void ExcPMIAnnotationSet::addView(const std::shared_ptr<ExcPMIAnnotationView>& view)
-{
-    appendChild(m_views, view, "ExcPMIAnnotationSet: attempt to add null View object.");
-}
+HRM_CHILD_ADDER(ExcPMIAnnotationSet, ExcPMIAnnotationView, addView, m_views, "View")
 
-void ExcPMIAnnotationSet::addCapture(const std::shared_ptr<ExcPMICapture>& capture)
-{
-    appendChild(m_captures, capture, "ExcPMIAnnotationSet: attempt to add null Capture object.");
-}
+HRM_CHILD_ADDER(ExcPMIAnnotationSet, ExcPMICapture, addCapture, m_captures, "Capture")
 
-void ExcPMIAnnotationSet::addConstructedGeometry(const std::shared_ptr<ExcEntity>& entity)
-{
-    appendChild(m_constructedGeometry, entity, "ExcPMIAnnotationSet: attempt to add null Constructed Geometry Entity object.");
-}
+HRM_CHILD_ADDER(ExcPMIAnnotationSet, ExcEntity, addConstructedGeometry, m_constructedGeometry, "Constructed Geometry Entity")
 
 template <class Members>
 void ExcPMIAnnotationSet::members(Members& m)
@@ -136,10 +121,7 @@ void ExcPMIAnnotationSet::members(Members& m)
 HRM_MEMBER_IO(ExcPMIAnnotationSet, "ExcPMIAnnotationSet")
 HRM_EQUALITY_AS_JSON(ExcPMIAnnotationSet)
 
-void ExcPMIData::addAnnotationSet(const std::shared_ptr<ExcPMIAnnotationSet>& set)
-{
-    appendChild(m_annotationSets, set, "ExcPMIData: attempt to add null PMI Annotation Set object.");
-}
+HRM_CHILD_ADDER(ExcPMIData, ExcPMIAnnotationSet, addAnnotationSet, m_annotationSets, "PMI Annotation Set")
 
 // The data is the array itself, not an object of members.
 void ExcPMIData::readObject(const JsonValue& value)

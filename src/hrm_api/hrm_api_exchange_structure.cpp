@@ -26,10 +26,7 @@ void ExcBlockReference::members(Members& m)
 HRM_MEMBER_IO(ExcBlockReference, "ExcBlockReference")
 HRM_EQUALITY_AS_JSON(ExcBlockReference)
 
-void ExcBlock::addBlockReference(const std::shared_ptr<ExcBlockReference>& reference)
-{
-    appendChild(m_blockReferences, reference, "ExcBlock: attempt to add null Block Reference object.");
-}
+HRM_CHILD_ADDER(ExcBlock, ExcBlockReference, addBlockReference, m_blockReferences, "Block Reference")
 
 template <class Members>
 void ExcBlock::members(Members& m)
@@ -73,10 +70,7 @@ std::shared_ptr<ExcBlock> ExcProductStructure::getBlockById(uint64_t id) const
     return it == m_blockIndex.end() ? nullptr : it->second;
 }
 
-void ExcProductStructure::addRootBlockReference(const std::shared_ptr<ExcBlockReference>& reference)
-{
-    appendChild(m_rootBlockReferences, reference, "ExcProductStructure: attempt to add null Root Block Reference object.");
-}
+HRM_CHILD_ADDER(ExcProductStructure, ExcBlockReference, addRootBlockReference, m_rootBlockReferences, "Root Block Reference")
 
 bool ExcProductStructure::isPart() const
 {
