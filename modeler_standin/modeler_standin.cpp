@@ -235,18 +235,13 @@ restore_def::restore_def(restore_def* parent, const char* name, restore_function
 
 namespace {
 
-ENTITY* restoreAttribute()
+// The restore function of class T: an empty entity that reads its data from the file.
+template <class T>
+ENTITY* restoreNew()
 {
-    ATTRIB* attribute = ACIS_NEW ATTRIB;
-    attribute->restore_common();
-    return attribute;
-}
-
-ENTITY* restoreBody()
-{
-    BODY* body = ACIS_NEW BODY;
-    body->restore_common();
-    return body;
+    T* entity = ACIS_NEW T;
+    entity->restore_common();
+    return entity;
 }
 
 // Every class registered when the library is loaded.
@@ -262,13 +257,13 @@ restore_def* ENTITY_subclasses()
 
 restore_def* ATTRIB_subclasses()
 {
-    static restore_def def(ENTITY_subclasses(), "attrib", restoreAttribute);
+    static restore_def def(ENTITY_subclasses(), "attrib", restoreNew<ATTRIB>);
     return &def;
 }
 
 restore_def* BODY_subclasses()
 {
-    static restore_def def(ENTITY_subclasses(), "body", restoreBody);
+    static restore_def def(ENTITY_subclasses(), "body", restoreNew<BODY>);
     return &def;
 }
 

@@ -22,16 +22,11 @@ int identityAt(int level, int classLevel, int type, Base base)
     return base(level);
 }
 
-ENTITY* restoreHermetor()
+// The restore function of class T: an empty attribute that reads its data from the file.
+template <class T>
+ENTITY* restoreNew()
 {
-    ATTRIB_HERMETOR* attribute = ACIS_NEW ATTRIB_HERMETOR;
-    attribute->restore_common();
-    return attribute;
-}
-
-ENTITY* restoreHermetorId()
-{
-    ATTRIB_HERMETOR_ID* attribute = ACIS_NEW ATTRIB_HERMETOR_ID;
+    T* attribute = ACIS_NEW T;
     attribute->restore_common();
     return attribute;
 }
@@ -39,13 +34,13 @@ ENTITY* restoreHermetorId()
 // The restore definitions: the plain class under ATTRIB, the ID class under the plain one.
 restore_def* hermetorDefinition()
 {
-    static restore_def definition(ATTRIB_subclasses(), hermetorName, restoreHermetor);
+    static restore_def definition(ATTRIB_subclasses(), hermetorName, restoreNew<ATTRIB_HERMETOR>);
     return &definition;
 }
 
 restore_def* hermetorIdDefinition()
 {
-    static restore_def definition(hermetorDefinition(), hermetorIdName, restoreHermetorId);
+    static restore_def definition(hermetorDefinition(), hermetorIdName, restoreNew<ATTRIB_HERMETOR_ID>);
     return &definition;
 }
 
